@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Cli.h"
+
+#include "cli/CommandContext.h"
+#include "cli/Commands.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+
+bool s_verbose = false;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kbcal", text);
+}
+
+const QString kGeneralUsage = QStringLiteral("Usage: kbcal [--data-dir DIR] [--verbose] COMMAND [OPTIONS] [ARGS]");
+
+QCommandLineOption jsonOption()
+{
+    return QCommandLineOption(QStringLiteral("json"), tr("Print exactly one JSON document on standard output."));
+}
+
+QCommandLineOption progressOption()
+{
+    return QCommandLineOption(QStringLiteral("progress"), tr("Report progress of long work on standard error."));
+}
+
+QCommandLineOption dataDirOption()
+{
+    return QCommandLineOption(QStringLiteral("data-dir"), tr("Use the calendar data in DIR."), QStringLiteral("DIR"));
+}
+
+QCommandLineOption helpOption()
+{
+    return QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+}
+
+QString optionLabel(const QCommandLineOption &option)
+{
+    QStringList names;
+    for (const QString &name : option.names())
+        names.append(QString(name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
+    QString label = names.join(QStringLiteral(", "));
+    if (!option.valueName().isEmpty())
+        label += QLatin1Char(' ') + option.valueName();
+    return label;
+}
+
+} // namespace
+
+Cli::Cli(QTextStream &out, QTextStream &err, QIODevice *in, bool stderrIsTerminal)
+    : m_out(out)
+    , m_err(err)
+    , m_in(in)
+    , m_stderrIsTerminal(stderrIsTerminal)
+{
+}
+
+bool Cli::verboseLogging()
+{
+    return s_verbose;
+}
+
+QString Cli::usageLine(const CommandSpec &spec)
+{
+    QString line = QStringLiteral("Usage: kbcal [--data-dir DIR] ") + spec.name();
+    if (!spec.synopsis.isEmpty())
+        line += QLatin1Char(' ') + spec.synopsis;
+    return line;
+}
+
+int Cli::run(const QStringList &arguments)
+{
+    QStringList rest = arguments;
+    QString dataDir;
+    while (!rest.isEmpty() && rest.constFirst().startsWith(QLatin1Char('-'))) {
+        const QString option = rest.takeFirst();
+        if (option == QLatin1String("--help") || option == QLatin1String("-h"))
+            return printGeneralHelp();
+        if (option == QLatin1String("--version")) {
+            m_out << "kbcal " << QCoreApplication::applicationVersion() << Qt::endl;
+            return 0;
+        }
+        if (option == QLatin1String("--verbose")) {
+            s_verbose = true;
+        } else if (option == QLatin1String("--data-dir")) {
+            if (rest.isEmpty())
+                return generalUsageError(tr("missing value for --data-dir"));
+            dataDir = rest.takeFirst();
+        } else if (option.startsWith(QLatin1String("--data-dir="))) {
+            dataDir = option.mid(11);
+        } else {
+            return generalUsageError(tr("unknown option '%1'").arg(option));
+        }
+    }
+    if (rest.isEmpty())
+        return generalUsageError(tr("missing command"));
+
+    // The longest list of command words that matches the start of the line.
+    const CommandSpec *found = nullptr;
+    for (const CommandSpec &spec : allCommands()) {
+        if (rest.size() < spec.words.size() || (found && found->words.size() >= spec.words.size()))
+            continue;
+        if (rest.mid(0, spec.words.size()) == spec.words)
+            found = &spec;
+    }
+    if (!found) {
+        QString attempted = rest.constFirst();
+        if (rest.size() > 1 && !rest.at(1).startsWith(QLatin1Char('-')))
+            attempted += QLatin1Char(' ') + rest.at(1);
+        return generalUsageError(tr("unknown command '%1'").arg(attempted));
+    }
+
+    QStringList commandArguments = rest.mid(found->words.size());
+    if (!dataDir.isEmpty())
+        commandArguments.prepend(QStringLiteral("--data-dir=") + dataDir);
+    return runCommand(*found, commandArguments);
+}
+
+int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments)
+{
+    QCommandLineParser parser;
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
+    parser.addOptions(spec.options);
+    if (spec.acceptsJson)
+        parser.addOption(jsonOption());
+    parser.addOption(progressOption());
+    parser.addOption(dataDirOption());
+    parser.addOption(helpOption());
+
+    if (!parser.parse(QStringList{QStringLiteral("kbcal")} + commandArguments)) {
+        m_err << "kbcal: " << parser.errorText() << '\n' << usageLine(spec) << Qt::endl;
+        return 2;
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        m_out << usageLine(spec) << "\n\n" << spec.description << "\n\nOptions:\n";
+        QList<QCommandLineOption> options = spec.options;
+        if (spec.acceptsJson)
+            options.append(jsonOption());
+        options << progressOption() << dataDirOption() << helpOption();
+        for (const QCommandLineOption &option : std::as_const(options))
+            m_out << "  " << optionLabel(option).leftJustified(28) << ' ' << option.description() << '\n';
+        m_out.flush();
+        return 0;
+    }
+
+    const bool progress = parser.isSet(QStringLiteral("progress")) || m_stderrIsTerminal;
+    CommandContext context(spec, parser, m_out, m_err, m_in, progress);
+    const int count = parser.positionalArguments().size();
+    if (count < spec.minArguments)
+        return context.usageError(tr("missing argument"));
+    if (spec.maxArguments >= 0 && count > spec.maxArguments)
+        return context.usageError(tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
+    const int status = spec.run(context);
+    m_out.flush();
+    m_err.flush();
+    return status;
+}
+
+int Cli::printGeneralHelp()
+{
+    m_out << kGeneralUsage << "\n\n"
+          << tr("The command-line companion of Kettlebrook Calendar: the same calendar store, from a terminal.")
+          << "\n\n"
+          << tr("Commands:") << '\n';
+    for (const CommandSpec &spec : allCommands())
+        m_out << "  " << spec.name().leftJustified(20) << ' ' << spec.summary << '\n';
+    m_out << '\n'
+          << tr("Global options:") << '\n'
+          << "  --data-dir DIR        " << tr("Use the calendar data in DIR (default: CALENDAR_DATA_DIR, else the "
+                                            "desktop program's data folder).")
+          << '\n'
+          << "  --verbose             " << tr("Show the program's log output on standard error.") << '\n'
+          << "  --version             " << tr("Show the version.") << '\n'
+          << '\n'
+          << tr("Run 'kbcal COMMAND --help' for the options of a command.") << '\n';
+    m_out.flush();
+    return 0;
+}
+
+int Cli::generalUsageError(const QString &message)
+{
+    m_err << "kbcal: " << message << '\n'
+          << kGeneralUsage << '\n'
+          << tr("Run 'kbcal --help' for the list of commands.") << Qt::endl;
+    return 2;
+}

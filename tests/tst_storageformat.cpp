@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/Clock.h"
+#include "storage/Event.h"
+#include "storage/StorageFormat.h"
+#include "storage/Task.h"
+#include "storage/Template.h"
+
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTest>
+#include <QTimeZone>
+
+using namespace StorageFormat;
+
+// The conventions by which record fields are written to their columns and read back.
+class TestStorageFormat : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void dateTimeText_data();
+    void dateTimeText();
+    void dateTimeRoundTripThroughColumn_data();
+    void dateTimeRoundTripThroughColumn();
+    void sqliteDefaultTextIsUtc();
+    void optionalDateTime();
+    void booleans();
+    void stringLists_data();
+    void stringLists();
+    void intLists();
+    void newIdsAreBracelessUuids();
+    void recordDefaults();
+    void clockCanBePinned();
+
+private:
+    QSqlDatabase m_db;
+};
+
+void TestStorageFormat::initTestCase()
+{
+    m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("format"));
+    m_db.setDatabaseName(QStringLiteral(":memory:"));
+    QVERIFY(m_db.open());
+    QSqlQuery(m_db).exec(QStringLiteral("CREATE TABLE t (v TEXT, b INTEGER)"));
+}
+
+void TestStorageFormat::cleanupTestCase()
+{
+    m_db.close();
+    m_db = QSqlDatabase();
+    QSqlDatabase::removeDatabase(QStringLiteral("format"));
+}
+
+void TestStorageFormat::dateTimeText_data()
+{
+    QTest::addColumn<QDateTime>("value");
+    QTest::addColumn<QString>("text");
+    const QDate d(2025, 3, 14);
+    QTest::newRow("utc") << QDateTime(d, QTime(9, 30), Qt::UTC) << "2025-03-14T09:30:00Z";
+    QTest::newRow("utc zone object") << QDateTime(d, QTime(9, 30), QTimeZone::utc()) << "2025-03-14T09:30:00Z";
+    QTest::newRow("zone winter") << QDateTime(d, QTime(10, 30), QTimeZone("Europe/Berlin"))
+                                 << "2025-03-14T10:30:00+01:00";
+    QTest::newRow("zone summer") << QDateTime(QDate(2025, 7, 1), QTime(10, 30), QTimeZone("Europe/Berlin"))
+                                 << "2025-07-01T10:30:00+02:00";
+    QTest::newRow("offset") << QDateTime(d, QTime(10, 30), QTimeZone(-5 * 3600))
+                            << "2025-03-14T10:30:00-05:00";
+    QTest::newRow("floating local") << QDateTime(d, QTime(10, 30)) << "2025-03-14T10:30:00";
+    QTest::newRow("milliseconds dropped") << QDateTime(d, QTime(9, 30, 5, 999), Qt::UTC)
+                                          << "2025-03-14T09:30:05Z";
+    QTest::newRow("invalid") << QDateTime() << "";
+}
+
+void TestStorageFormat::dateTimeText()
+{
+    QFETCH(QDateTime, value);
+    QFETCH(QString, text);
+    QCOMPARE(StorageFormat::dateTimeText(value), text);
+}
+
+void TestStorageFormat::dateTimeRoundTripThroughColumn_data()
+{
+    dateTimeText_data();
+}
+
+void TestStorageFormat::dateTimeRoundTripThroughColumn()
+{
+    QFETCH(QDateTime, value);
+    QFETCH(QString, text);
+    QSqlQuery(m_db).exec(QStringLiteral("DELETE FROM t"));
+    QSqlQuery insert(m_db);
+    insert.prepare(QStringLiteral("INSERT INTO t (v) VALUES (?)"));
+    insert.addBindValue(dateTimeValue(value));
+    QVERIFY(insert.exec());
+    QSqlQuery read(m_db);
+    QVERIFY(read.exec(QStringLiteral("SELECT v FROM t")) && read.next());
+    QCOMPARE(read.value(0).toString(), text);
+    const QDateTime back = parseDateTime(read.value(0).toString());
+    QCOMPARE(back.isValid(), value.isValid());
+    if (value.isValid()) {
+        // Same instant, seconds precision.
+        QCOMPARE(back.toSecsSinceEpoch(), value.toSecsSinceEpoch());
+        QCOMPARE(back.offsetFromUtc(), value.offsetFromUtc());
+    }
+}
+
+void TestStorageFormat::sqliteDefaultTextIsUtc()
+{
+    const QDateTime value = parseDateTime(QStringLiteral("2025-03-14 09:30:00"));
+    QVERIFY(value.isValid());
+    QCOMPARE(value.toUTC(), QDateTime(QDate(2025, 3, 14), QTime(9, 30), Qt::UTC));
+    QVERIFY(!parseDateTime(QStringLiteral("yesterday")).isValid());
+    QVERIFY(!parseDateTime(QString()).isValid());
+}
+
+void TestStorageFormat::optionalDateTime()
+{
+    QCOMPARE(parseOptionalDateTime(QVariant(QMetaType::fromType<QString>())), std::nullopt);
+    QCOMPARE(parseOptionalDateTime(QVariant(QString())), std::nullopt);
+    QCOMPARE(parseOptionalDateTime(QVariant(QStringLiteral(""))), std::nullopt);
+    const auto present = parseOptionalDateTime(QVariant(QStringLiteral("2024-01-05T09:00:00Z")));
+    QVERIFY(present.has_value());
+    QCOMPARE(*present, QDateTime(QDate(2024, 1, 5), QTime(9, 0), Qt::UTC));
+
+    // An absent value is stored as SQL NULL, not as empty text or an epoch value.
+    QSqlQuery(m_db).exec(QStringLiteral("DELETE FROM t"));
+    QSqlQuery insert(m_db);
+    insert.prepare(QStringLiteral("INSERT INTO t (v) VALUES (?)"));
+    insert.addBindValue(dateTimeValue(std::optional<QDateTime>()));
+    QVERIFY(insert.exec());
+    QSqlQuery read(m_db);
+    QVERIFY(read.exec(QStringLiteral("SELECT v IS NULL, v FROM t")) && read.next());
+    QCOMPARE(read.value(0).toInt(), 1);
+    QCOMPARE(parseOptionalDateTime(read.value(1)), std::nullopt);
+}
+
+void TestStorageFormat::booleans()
+{
+    QCOMPARE(boolValue(true), 1);
+    QCOMPARE(boolValue(false), 0);
+    QSqlQuery(m_db).exec(QStringLiteral("DELETE FROM t"));
+    QSqlQuery(m_db).exec(QStringLiteral("INSERT INTO t (b) VALUES (0), (1), (2), (-1), (NULL)"));
+    QSqlQuery read(m_db);
+    QVERIFY(read.exec(QStringLiteral("SELECT b FROM t ORDER BY rowid")));
+    QList<bool> values;
+    while (read.next())
+        values.append(readBool(read.value(0)));
+    QCOMPARE(values, (QList<bool>{false, true, true, true, false}));
+}
+
+void TestStorageFormat::stringLists_data()
+{
+    QTest::addColumn<QStringList>("items");
+    QTest::addColumn<QString>("json");
+    QTest::newRow("two") << QStringList{"a", "b"} << R"(["a","b"])";
+    QTest::newRow("empty") << QStringList{} << "[]";
+    QTest::newRow("components") << QStringList{"VEVENT", "VTODO"} << R"(["VEVENT","VTODO"])";
+    QTest::newRow("quotes and unicode") << QStringList{"say \"hi\"", "Café"} << R"(["say \"hi\"","Café"])";
+}
+
+void TestStorageFormat::stringLists()
+{
+    QFETCH(QStringList, items);
+    QFETCH(QString, json);
+    QCOMPARE(stringListJson(items), json);
+    QCOMPARE(parseStringListJson(json), items);
+}
+
+void TestStorageFormat::intLists()
+{
+    QCOMPARE(intListJson({10, 60}), QStringLiteral("[10,60]"));
+    QCOMPARE(intListJson({}), QStringLiteral("[]"));
+    QCOMPARE(parseIntListJson(QStringLiteral("[15,60]")), (QList<qint32>{15, 60}));
+    QCOMPARE(parseIntListJson(QStringLiteral("not json")), QList<qint32>{});
+    QCOMPARE(parseStringListJson(QStringLiteral("{\"a\":1}")), QStringList{});
+    QCOMPARE(parseStringListJson(QStringLiteral("[\"a\",3,\"b\"]")), (QStringList{"a", "", "b"}));
+}
+
+void TestStorageFormat::newIdsAreBracelessUuids()
+{
+    static const QRegularExpression form(
+        QStringLiteral("^[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}$"));
+    const QString a = newId();
+    const QString b = newId();
+    QVERIFY2(form.match(a).hasMatch(), qPrintable(a));
+    QVERIFY(a != b);
+}
+
+void TestStorageFormat::recordDefaults()
+{
+    const Event event;
+    QCOMPARE(event.timezone, QStringLiteral("UTC"));
+    QCOMPARE(event.status, QStringLiteral("confirmed"));
+    QCOMPARE(event.sync_status, QStringLiteral("synced"));
+    QCOMPARE(event.sequence, 0);
+    QVERIFY(!event.is_all_day && !event.end_time && !event.deleted_at);
+    QVERIFY(!event.start_time.isValid() && !event.created.isValid());
+
+    const Task task;
+    QCOMPARE(task.status, QStringLiteral("needs-action"));
+    QCOMPARE(task.repeat_mode, QStringLiteral("fromDueDate"));
+    QVERIFY(task.due_is_date_only && task.start_is_date_only);
+    QVERIFY(!task.due_date && !task.start_date && !task.completed_date);
+
+    const Template preset;
+    QCOMPARE(intListJson(preset.reminders), QStringLiteral("[15]"));
+    QCOMPARE(preset.duration_minutes, 60);
+}
+
+void TestStorageFormat::clockCanBePinned()
+{
+    const QDateTime pinned(QDate(2024, 1, 5), QTime(9, 0), Qt::UTC);
+    Clock::setFixedNow(pinned);
+    QCOMPARE(Clock::nowUtc(), pinned);
+    QCOMPARE(Clock::nowUtc().timeSpec(), Qt::UTC);
+    QCOMPARE(Clock::nowLocal().toUTC(), pinned);
+    Clock::setFixedNow(QDateTime());
+    QVERIFY(qAbs(Clock::nowUtc().secsTo(QDateTime::currentDateTimeUtc())) < 5);
+    QCOMPARE(Clock::nowUtc().time().msec(), 0);
+}
+
+QTEST_GUILESS_MAIN(TestStorageFormat)
+#include "tst_storageformat.moc"
