@@ -4,6 +4,7 @@
 #include "storage/Attendee.h"
 #include "storage/Reminder.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -39,7 +40,8 @@ struct Event
     QString organizer_email;
     QString organizer_name;
     qint32 sequence = 0;
-    QString raw_icalendar;
+    // The complete iCalendar text last read or written (UTF-8); keeps what the record has no field for.
+    QByteArray raw_icalendar;
     QString color; // #RRGGBB; empty means the calendar colour
     QDateTime created;
     QDateTime last_modified;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -30,7 +31,7 @@ struct Task
     QString recurrence_rule;
     QString repeat_mode = QStringLiteral("fromDueDate"); // or "fromCompletionDate"
     qint32 sequence = 0;
-    QString raw_icalendar;
+    QByteArray raw_icalendar; // the iCalendar text of the task (UTF-8)
     QDateTime created;
     QDateTime last_modified;
     QString sync_status = QStringLiteral("synced");

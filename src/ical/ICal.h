@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/Event.h"
+#include "storage/Task.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+// Reading iCalendar text (RFC 5545) into records and writing the small objects the program
+// writes itself. iCalendar text is handled as UTF-8 bytes throughout, as it travels on the wire
+// and in files; record fields are decoded text.
+//
+// The reader is deliberately small: it recognises a fixed set of properties, ignores the rest,
+// and keeps each component's text in raw_icalendar so that a later upload sends back what it did
+// not understand. It never fails as a whole: unreadable values become defaults or invalid values.
+namespace ICal {
+
+// The envelope of every calendar object the program writes, and that the event reader wraps
+// around each event it keeps. Lines end in CR LF.
+inline constexpr char kCalendarHead[] = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Kettlebrook//Calendar Desktop//EN\r\n";
+inline constexpr char kCalendarTail[] = "END:VCALENDAR\r\n";
+
+// One content line: upper-cased name, parameters (upper-cased name to raw value, in order of
+// appearance) and the value after the first colon.
+struct ContentLine
+{
+    QString name;
+    QList<std::pair<QString, QString>> parameters;
+    QString value;
+
+    // The raw value of a parameter, or a null string when it is absent.
+    QString parameter(QStringView name) const;
+};
+
+// Every VEVENT that carries a UID, in the order in which they stand.
+QList<Event> parseEvents(QByteArrayView utf8);
+QList<Event> parseEvents(const QString &text);
+// Every VTODO that carries a UID, in order.
+QList<Task> parseTasks(QByteArrayView utf8);
+QList<Task> parseTasks(const QString &text);
+
+// Splits text at CR LF or LF and joins folded lines (a piece beginning with a space or a tab
+// continues the previous line, without that first character). Empty pieces are kept as lines.
+QStringList unfoldLines(const QString &text);
+// Splits a content line. The value starts after the first ":" wherever it stands (also inside a
+// quoted parameter value); a line without ":" is a bare name. Parameter values keep their quotes.
+ContentLine parsePropertyLine(const QString &line);
+// Undoes text escaping: "\," "\;" "\n" "\N" "\\". Any other backslash stays as it is.
+QString unescapeText(const QString &text);
+// Reads a DATE or DATE-TIME value. Eight characters without "T" are a date at midnight UTC
+// (isDateOnly set); a trailing "Z" means UTC; otherwise a known TZID places the wall-clock time in
+// that zone, else the time is floating local time. Invalid when unreadable.
+QDateTime parseDateTime(const QString &value, const QList<std::pair<QString, QString>> &parameters,
+                        bool *isDateOnly = nullptr);
+// Seconds of a DURATION value; 0 for an empty, negative or unreadable value.
+qint64 parseDurationSeconds(const QString &value);
+
+// The minimal calendar object for a new event: UID, SUMMARY, DTSTART and DTEND in UTC (the start
+// again when there is no end), RELATED-TO when set. Values are written as they are, unescaped.
+QByteArray buildEventIcs(const Event &event);
+// The stored text with its first event moved to a new start and end (UTC); later components keep
+// their times. An empty text or an invalid start returns the text unchanged.
+QByteArray rescheduleEventIcs(const QByteArray &rawText, const QDateTime &newStart, const QDateTime &newEnd);
+// The calendar object of a task for upload, with the private repeat-mode and sort-order properties.
+QByteArray buildTaskIcs(const Task &task);
+
+} // namespace ICal
