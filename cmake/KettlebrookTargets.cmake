@@ -7,7 +7,10 @@ function(kb_target_defaults target)
         QT_USE_QSTRINGBUILDER
         QT_NO_FOREACH
         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Werror)
+    target_compile_options(${target} PRIVATE -Wall -Wextra)
+    if(NOT KB_FUZZ)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
 endfunction()
 
 # kb_add_library(NAME SOURCES ... [LIBS ...])
