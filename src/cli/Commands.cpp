@@ -5,6 +5,7 @@ const QList<CommandSpec> &allCommands()
 {
     static const QList<CommandSpec> commands = {
         initCommand(),
+        addCommand(),
     };
     return commands;
 }
