@@ -247,6 +247,16 @@ int durationMinutes(QStringView number, bool hours)
     return minutes > std::numeric_limits<int>::max() ? -1 : int(minutes);
 }
 
+// A wall-clock time that the zone skips (02:30 on the night the clocks go forward) is read with
+// the offset in force before the jump, as iCalendar does, so it lands as far after the jump as it
+// was after the last valid time: 02:30 becomes 03:30. Jumps are at least a day apart, so a day
+// earlier the old offset still holds.
+QDateTime skippedWallTime(const QDate &date, const QTime &time, const QTimeZone &zone)
+{
+    const int offsetBefore = zone.offsetFromUtc(QDateTime(date.addDays(-1), time, Qt::UTC));
+    return QDateTime(date, time, Qt::OffsetFromUTC, offsetBefore).toTimeZone(zone);
+}
+
 // The date and wall-clock time in the zone (or offset, or local time) of the reference time.
 // Invalid when either part is, instead of QDateTime's fallback to midnight for a bad time.
 QDateTime inZoneOf(const QDateTime &reference, const QDate &date, const QTime &time)
@@ -258,12 +268,15 @@ QDateTime inZoneOf(const QDateTime &reference, const QDate &date, const QTime &t
         return QDateTime(date, time, Qt::UTC);
     case Qt::OffsetFromUTC:
         return QDateTime(date, time, Qt::OffsetFromUTC, reference.offsetFromUtc());
-    case Qt::TimeZone:
-        return QDateTime(date, time, reference.timeZone());
+    case Qt::TimeZone: {
+        const QDateTime value(date, time, reference.timeZone());
+        return value.isValid() ? value : skippedWallTime(date, time, reference.timeZone());
+    }
     case Qt::LocalTime:
         break;
     }
-    return QDateTime(date, time, Qt::LocalTime);
+    const QDateTime value(date, time, Qt::LocalTime);
+    return value.isValid() ? value : skippedWallTime(date, time, QTimeZone::systemTimeZone()).toLocalTime();
 }
 
 // ISO 8601 text, in which every stored date-time is kept, has four-digit years.
@@ -359,7 +372,7 @@ Parse parseWithMatches(const QString &text, const QDateTime &now)
         // Deliberate: an end not after the start is the next day's ("from 10pm to 1am"), even
         // when the marker borrowed by the end puts it hours later ("from 11pm to 1" is 13:00).
         if (end.isValid() && result.start.isValid() && end <= result.start)
-            end = end.addDays(1);
+            end = inZoneOf(now, date.addDays(1), endTime);
         result.end = end;
     } else if (result.allDay) {
         result.end = inZoneOf(now, date.addDays(1), QTime(0, 0));
