@@ -6,6 +6,7 @@ const QList<CommandSpec> &allCommands()
     static const QList<CommandSpec> commands = {
         initCommand(),
         icsParseCommand(),
+        addCommand(),
     };
     return commands;
 }

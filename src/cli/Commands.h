@@ -9,3 +9,4 @@ const QList<CommandSpec> &allCommands();
 // One function per command, each in its own source file.
 CommandSpec initCommand();
 CommandSpec icsParseCommand();
+CommandSpec addCommand();
