@@ -8,3 +8,8 @@ const QList<CommandSpec> &allCommands();
 
 // One function per command, each in its own source file.
 CommandSpec initCommand();
+CommandSpec icsExpandCommand();
+CommandSpec sampleDataAddCommand();
+CommandSpec sampleDataRemoveCommand();
+CommandSpec taskCompleteCommand();
+CommandSpec taskReopenCommand();
