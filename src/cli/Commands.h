@@ -10,3 +10,8 @@ const QList<CommandSpec> &allCommands();
 CommandSpec initCommand();
 CommandSpec icsParseCommand();
 CommandSpec addCommand();
+CommandSpec icsExpandCommand();
+CommandSpec sampleDataAddCommand();
+CommandSpec sampleDataRemoveCommand();
+CommandSpec taskCompleteCommand();
+CommandSpec taskReopenCommand();
