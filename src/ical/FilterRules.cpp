@@ -43,9 +43,9 @@ int dayNumber(const QJsonValue &entry)
 {
     if (!entry.isString())
         return 0;
-    static const QStringList names = {QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"),
-                                      QStringLiteral("thu"), QStringLiteral("fri"), QStringLiteral("sat"),
-                                      QStringLiteral("sun")};
+    static const QStringList names
+        = {QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"), QStringLiteral("thu"),
+           QStringLiteral("fri"), QStringLiteral("sat"), QStringLiteral("sun")};
     return static_cast<int>(names.indexOf(entry.toString().toLower())) + 1;
 }
 
@@ -86,8 +86,7 @@ class LocalStart
 public:
     explicit LocalStart(const QDateTime &start)
         : m_start(start)
-    {
-    }
+    { }
 
     bool isValid() const { return m_start.isValid(); }
     int dayOfWeek()
