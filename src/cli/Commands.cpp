@@ -5,6 +5,8 @@ const QList<CommandSpec> &allCommands()
 {
     static const QList<CommandSpec> commands = {
         initCommand(),
+        calendarsCommand(),
+        accountsCommand(),
     };
     return commands;
 }

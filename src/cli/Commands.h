@@ -8,3 +8,5 @@ const QList<CommandSpec> &allCommands();
 
 // One function per command, each in its own source file.
 CommandSpec initCommand();
+CommandSpec calendarsCommand();
+CommandSpec accountsCommand();
