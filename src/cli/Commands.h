@@ -15,3 +15,5 @@ CommandSpec sampleDataAddCommand();
 CommandSpec sampleDataRemoveCommand();
 CommandSpec taskCompleteCommand();
 CommandSpec taskReopenCommand();
+CommandSpec calendarsCommand();
+CommandSpec accountsCommand();
