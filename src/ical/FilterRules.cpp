@@ -43,9 +43,9 @@ int dayNumber(const QJsonValue &entry)
 {
     if (!entry.isString())
         return 0;
-    static const QStringList names = {QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"),
-                                      QStringLiteral("thu"), QStringLiteral("fri"), QStringLiteral("sat"),
-                                      QStringLiteral("sun")};
+    static const QStringList names
+        = {QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"), QStringLiteral("thu"),
+           QStringLiteral("fri"), QStringLiteral("sat"), QStringLiteral("sun")};
     return static_cast<int>(names.indexOf(entry.toString().toLower())) + 1;
 }
 
@@ -85,11 +85,10 @@ class LocalStart
 {
 public:
     explicit LocalStart(const QDateTime &start)
-        : m_start(start)
-    {
-    }
+        : m_start(&start)
+    { }
 
-    bool isValid() const { return m_start.isValid(); }
+    bool isValid() const { return m_start->isValid(); }
     int dayOfWeek()
     {
         resolve();
@@ -107,7 +106,7 @@ private:
         if (m_resolved)
             return;
         m_resolved = true;
-        const QDateTime local = m_start.toLocalTime();
+        const QDateTime local = m_start->toLocalTime();
         m_dayOfWeek = local.date().dayOfWeek();
         const QTime time = local.time();
         const int h = time.hour();
@@ -117,7 +116,7 @@ private:
         m_hhmm = QString(digits, 5);
     }
 
-    QDateTime m_start;
+    const QDateTime *m_start;
     bool m_resolved = false;
     int m_dayOfWeek = 0;
     QString m_hhmm;
@@ -261,8 +260,11 @@ FilterResult applyFilterRules(const QList<Event> &events, const QList<FilterRule
         result.events = events;
         return result;
     }
-    result.events.reserve(events.size());
-    for (const Event &event : events) {
+    // Copying events is the dominant cost on long lists, so the visible list shares the input
+    // until the first hidden event and is built only from then on.
+    qsizetype firstHidden = -1;
+    for (qsizetype i = 0; i < events.size(); ++i) {
+        const Event &event = events.at(i);
         LocalStart start(event.start_time);
         const CompiledFilterRule *decider = nullptr;
         for (const CompiledFilterRule &rule : compiled) {
@@ -273,22 +275,26 @@ FilterResult applyFilterRules(const QList<Event> &events, const QList<FilterRule
                 break;
             }
         }
-        if (!decider) {
-            result.events.append(event);
-            continue;
-        }
-        if (decider->rule.action == QLatin1String("hide")) {
+        if (decider && decider->rule.action == QLatin1String("hide")) {
+            if (firstHidden < 0) {
+                firstHidden = i;
+                result.events.reserve(events.size() - 1);
+                result.events.append(events.cbegin(), events.cbegin() + i);
+            }
             // A hidden event never reminds, whatever the rule's suppress_reminders says.
             ++result.hiddenCount;
             result.suppressedReminderIds.insert(event.id);
             continue;
         }
-        result.events.append(event);
-        if (decider->rule.action == QLatin1String("dim")) {
+        if (firstHidden >= 0)
+            result.events.append(event);
+        if (decider && decider->rule.action == QLatin1String("dim")) {
             result.dimmedIds.insert(event.id);
             if (decider->rule.suppress_reminders)
                 result.suppressedReminderIds.insert(event.id);
         }
     }
+    if (firstHidden < 0)
+        result.events = events;
     return result;
 }

@@ -281,8 +281,7 @@ OccurrenceGenerator::OccurrenceGenerator(const CompiledRule &rule, const QDateTi
     }
 }
 
-void OccurrenceGenerator::starts(qint64 rangeEndMs, qint64 neededFromMs, Method method,
-                                 std::vector<qint64> &out) const
+void OccurrenceGenerator::starts(qint64 rangeEndMs, qint64 neededFromMs, Method method, std::vector<qint64> &out) const
 {
     out.clear();
     if (!m_valid)
@@ -295,8 +294,8 @@ void OccurrenceGenerator::starts(qint64 rangeEndMs, qint64 neededFromMs, Method 
     if (method == Method::SkipAhead && neededFromMs > kNoLowerBound + kSkipMargin)
         skipBefore = std::min(neededFromMs, rangeEndMs) - kSkipMargin;
     // COUNT counts from the series start, not from the span asked for: deliberate.
-    const qint64 limit = m_rule.count > 0 ? std::min<qint64>(m_rule.count, Recurrence::kMaxOccurrences)
-                                          : Recurrence::kMaxOccurrences;
+    const qint64 limit
+        = m_rule.count > 0 ? std::min<qint64>(m_rule.count, Recurrence::kMaxOccurrences) : Recurrence::kMaxOccurrences;
     Run run{m_rule, m_clock, m_startMs, m_startWall, rangeEndMs, skipBefore, limit, out};
     switch (m_rule.frequency) {
     case CompiledRule::Frequency::Daily:

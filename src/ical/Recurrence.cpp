@@ -64,10 +64,12 @@ QSet<qint64> parseExceptionDates(const QString &text)
 QList<QDateTime> occurrenceStarts(const RecurrenceRule &rule, const QDateTime &seriesStart, const QDateTime &rangeEnd)
 {
     QList<QDateTime> result;
+    if (!rangeEnd.isValid())
+        return result;
     const OccurrenceGenerator generator(CompiledRule::fromRule(rule), seriesStart);
     std::vector<qint64> starts;
-    const qint64 rangeEndMs = rangeEnd.isValid() ? rangeEnd.toMSecsSinceEpoch() : OccurrenceGenerator::kNoLowerBound;
-    generator.starts(rangeEndMs, OccurrenceGenerator::kNoLowerBound, OccurrenceGenerator::Method::SkipAhead, starts);
+    generator.starts(rangeEnd.toMSecsSinceEpoch(), OccurrenceGenerator::kNoLowerBound,
+                     OccurrenceGenerator::Method::SkipAhead, starts);
     result.reserve(qsizetype(starts.size()));
     for (const qint64 start : starts)
         result.append(generator.dateTimeAt(start));

@@ -29,14 +29,13 @@ void appendOccurrences(const Event &master, qint64 rangeStartMs, qint64 rangeEnd
 {
     if (!master.start_time.isValid())
         return;
-    const QSet<qint64> exceptions = master.exception_dates.isEmpty()
-        ? QSet<qint64>()
-        : Recurrence::parseExceptionDates(master.exception_dates);
-    const qint64 duration = master.end_time ? master.start_time.msecsTo(*master.end_time)
-                                            : Recurrence::kDefaultDurationMs;
+    const QSet<qint64> exceptions
+        = master.exception_dates.isEmpty() ? QSet<qint64>() : Recurrence::parseExceptionDates(master.exception_dates);
+    const qint64 duration
+        = master.end_time ? master.start_time.msecsTo(*master.end_time) : Recurrence::kDefaultDurationMs;
     // A start is needed when its occurrence ends after the span start.
-    const qint64 neededFrom = rangeStartMs == OccurrenceGenerator::kNoLowerBound ? rangeStartMs
-                                                                                  : rangeStartMs - duration;
+    const qint64 neededFrom
+        = rangeStartMs == OccurrenceGenerator::kNoLowerBound ? rangeStartMs : rangeStartMs - duration;
     const OccurrenceGenerator generator(CompiledRule::fromText(master.recurrence_rule), master.start_time);
     generator.starts(rangeEndMs, neededFrom, method, starts);
     for (const qint64 start : starts) {
@@ -88,8 +87,7 @@ QString utcStamp(qint64 instantMs)
     return text;
 }
 
-QList<Event> expandSeries(const Event &master, const QDateTime &rangeStart, const QDateTime &rangeEnd,
-                          Method method)
+QList<Event> expandSeries(const Event &master, const QDateTime &rangeStart, const QDateTime &rangeEnd, Method method)
 {
     QList<Event> result;
     if (!rangeEnd.isValid())

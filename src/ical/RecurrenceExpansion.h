@@ -14,8 +14,7 @@ namespace RecurrenceExpansion {
 
 using Method = OccurrenceGenerator::Method;
 
-QList<Event> expandSeries(const Event &master, const QDateTime &rangeStart, const QDateTime &rangeEnd,
-                          Method method);
+QList<Event> expandSeries(const Event &master, const QDateTime &rangeStart, const QDateTime &rangeEnd, Method method);
 QList<Event> expandEvents(const QList<Event> &events, const QDateTime &rangeStart, const QDateTime &rangeEnd,
                           Method method);
 

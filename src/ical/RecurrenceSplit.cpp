@@ -28,7 +28,8 @@ std::optional<Event> splitSeries(EventRepository &repository, const Event &maste
     // The truncation removed COUNT and the end goes here, so the new series runs without either,
     // whatever the rule said before the split.
     QStringList pieces = truncated.split(u';', Qt::SkipEmptyParts);
-    pieces.removeIf([](const QString &piece) { return piece.startsWith(QLatin1StringView("UNTIL="), Qt::CaseInsensitive); });
+    pieces.removeIf(
+        [](const QString &piece) { return piece.startsWith(QLatin1StringView("UNTIL="), Qt::CaseInsensitive); });
 
     Event series;
     series.id = StorageFormat::newId();

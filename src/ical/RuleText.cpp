@@ -128,9 +128,11 @@ int weekdayNumber(QStringView item)
     // Ordinal items ("1MO", "-1FR") are not weekdays and are ignored: deliberate.
     if (item.size() != 2)
         return 0;
-    static constexpr char16_t kCodes[7][2] = {{u'M', u'O'}, {u'T', u'U'}, {u'W', u'E'}, {u'T', u'H'},
-                                              {u'F', u'R'}, {u'S', u'A'}, {u'S', u'U'}};
-    const auto upper = [](char16_t c) { return (c >= u'a' && c <= u'z') ? char16_t(c - (u'a' - u'A')) : c; };
+    static constexpr char16_t kCodes[7][2]
+        = {{u'M', u'O'}, {u'T', u'U'}, {u'W', u'E'}, {u'T', u'H'}, {u'F', u'R'}, {u'S', u'A'}, {u'S', u'U'}};
+    const auto upper = [](char16_t c) {
+        return (c >= u'a' && c <= u'z') ? char16_t(c - (u'a' - u'A')) : c;
+    };
     const char16_t first = upper(item.at(0).unicode());
     const char16_t second = upper(item.at(1).unicode());
     for (int i = 0; i < 7; ++i) {

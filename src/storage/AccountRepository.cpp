@@ -55,8 +55,7 @@ bool isCalDavKind(const QString &type)
 AccountRepository::AccountRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 QList<Account> AccountRepository::select(const QString &sql, const QVariantList &values) const
 {
@@ -82,8 +81,8 @@ QList<Account> AccountRepository::getAllIncludingDeleted() const
 
 std::optional<Account> AccountRepository::getById(const QString &id) const
 {
-    const QList<Account> found = select(QStringLiteral("SELECT %1 FROM accounts WHERE id = ? AND deleted_at IS NULL"),
-                                        {text(id)});
+    const QList<Account> found
+        = select(QStringLiteral("SELECT %1 FROM accounts WHERE id = ? AND deleted_at IS NULL"), {text(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -186,7 +185,8 @@ bool AccountRepository::reorder(const QStringList &ids)
 {
     if (ids.isEmpty())
         return true;
-    if (!RepositorySql::reorder(m_database->connection(), QStringLiteral("UPDATE accounts SET sort_order = ?, updated_at = ? WHERE id = ?"), ids))
+    if (!RepositorySql::reorder(m_database->connection(),
+                                QStringLiteral("UPDATE accounts SET sort_order = ?, updated_at = ? WHERE id = ?"), ids))
         return false;
     emit accountsChanged();
     return true;
@@ -224,8 +224,9 @@ int AccountRepository::dedupeCalDavAccounts()
             if (!db.transaction())
                 return collapsed;
             QSqlQuery move(db);
-            bool ok = RepositorySql::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
-                                          {text(keeperId), text(duplicateId)});
+            bool ok
+                = RepositorySql::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
+                                      {text(keeperId), text(duplicateId)});
             move.finish();
             ok = ok && softDelete(duplicateId);
             if (!ok || !db.commit()) {

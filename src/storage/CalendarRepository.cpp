@@ -52,8 +52,7 @@ Calendar fromRow(const QSqlQuery &query)
 CalendarRepository::CalendarRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 QList<Calendar> CalendarRepository::select(const QString &sql, const QVariantList &values) const
 {
@@ -97,13 +96,25 @@ bool CalendarRepository::insert(const Calendar &calendar)
                        "sort_order, canonical_key, sync_enabled, is_shared, shared_with_me, last_sync_error, "
                        "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
                        "?, ?)"),
-        {text(calendar.id), text(calendar.account_id), text(calendar.url), text(calendar.name),
-         text(calendar.description), text(calendar.color), text(calendar.timezone),
-         StorageFormat::boolValue(calendar.is_visible), StorageFormat::boolValue(calendar.is_read_only),
-         StorageFormat::boolValue(calendar.is_default), text(calendar.ctag), text(calendar.sync_token),
-         text(calendar.delta_sync_token), text(calendar.supported_components), calendar.sort_order,
-         text(calendar.canonical_key), StorageFormat::boolValue(calendar.sync_enabled),
-         StorageFormat::boolValue(calendar.is_shared), StorageFormat::boolValue(calendar.shared_with_me),
+        {text(calendar.id),
+         text(calendar.account_id),
+         text(calendar.url),
+         text(calendar.name),
+         text(calendar.description),
+         text(calendar.color),
+         text(calendar.timezone),
+         StorageFormat::boolValue(calendar.is_visible),
+         StorageFormat::boolValue(calendar.is_read_only),
+         StorageFormat::boolValue(calendar.is_default),
+         text(calendar.ctag),
+         text(calendar.sync_token),
+         text(calendar.delta_sync_token),
+         text(calendar.supported_components),
+         calendar.sort_order,
+         text(calendar.canonical_key),
+         StorageFormat::boolValue(calendar.sync_enabled),
+         StorageFormat::boolValue(calendar.is_shared),
+         StorageFormat::boolValue(calendar.shared_with_me),
          text(calendar.last_sync_error),
          StorageFormat::dateTimeValue(calendar.created_at.isValid() ? calendar.created_at : now),
          StorageFormat::dateTimeValue(calendar.updated_at.isValid() ? calendar.updated_at : now)});
@@ -125,14 +136,27 @@ bool CalendarRepository::update(const Calendar &calendar)
                        "delta_sync_token = ?, supported_components = ?, sort_order = ?, canonical_key = ?, "
                        "sync_enabled = ?, is_shared = ?, shared_with_me = ?, last_sync_error = ?, updated_at = ? "
                        "WHERE id = ?"),
-        {text(calendar.account_id), text(calendar.url), text(calendar.name), text(calendar.description),
-         text(calendar.color), text(calendar.timezone), StorageFormat::boolValue(calendar.is_visible),
-         StorageFormat::boolValue(calendar.is_read_only), StorageFormat::boolValue(calendar.is_default),
-         text(calendar.ctag), text(calendar.sync_token), text(calendar.delta_sync_token),
-         text(calendar.supported_components), calendar.sort_order, text(calendar.canonical_key),
-         StorageFormat::boolValue(calendar.sync_enabled), StorageFormat::boolValue(calendar.is_shared),
-         StorageFormat::boolValue(calendar.shared_with_me), text(calendar.last_sync_error),
-         StorageFormat::dateTimeValue(Clock::nowUtc()), text(calendar.id)});
+        {text(calendar.account_id),
+         text(calendar.url),
+         text(calendar.name),
+         text(calendar.description),
+         text(calendar.color),
+         text(calendar.timezone),
+         StorageFormat::boolValue(calendar.is_visible),
+         StorageFormat::boolValue(calendar.is_read_only),
+         StorageFormat::boolValue(calendar.is_default),
+         text(calendar.ctag),
+         text(calendar.sync_token),
+         text(calendar.delta_sync_token),
+         text(calendar.supported_components),
+         calendar.sort_order,
+         text(calendar.canonical_key),
+         StorageFormat::boolValue(calendar.sync_enabled),
+         StorageFormat::boolValue(calendar.is_shared),
+         StorageFormat::boolValue(calendar.shared_with_me),
+         text(calendar.last_sync_error),
+         StorageFormat::dateTimeValue(Clock::nowUtc()),
+         text(calendar.id)});
     if (!ok) {
         RepositorySql::logFailure("CalendarRepository::update failed:", query.lastError());
         return false;

@@ -43,8 +43,7 @@ FilterRule fromRow(const QSqlQuery &query)
 FilterRuleRepository::FilterRuleRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 QList<FilterRule> FilterRuleRepository::select(const QString &sql, const QVariantList &values) const
 {
@@ -147,7 +146,8 @@ bool FilterRuleRepository::reorder(const QStringList &ids)
         return true;
     if (!RepositorySql::reorder(
             m_database->connection(),
-            QStringLiteral("UPDATE filter_rules SET priority = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
+            QStringLiteral(
+                "UPDATE filter_rules SET priority = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
             ids))
         return false;
     emit filterRulesChanged();

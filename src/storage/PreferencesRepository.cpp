@@ -11,8 +11,7 @@ using RepositorySql::text;
 PreferencesRepository::PreferencesRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 std::optional<QString> PreferencesRepository::value(const QString &key) const
 {

@@ -10,9 +10,6 @@
 // Small helpers shared by the repositories.
 namespace SqlSupport {
 
-// The most "?" one statement may carry (SQLite's default limit); longer IN lists are split.
-inline constexpr int kMaxBoundValues = 32766;
-
 // "?,?,?" with `count` placeholders, joined by "," without spaces.
 QString placeholders(qsizetype count);
 // Binds `values` in order to the positional parameters and executes the statement.

@@ -4,5 +4,4 @@
 SyncQueueRepository::SyncQueueRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }

@@ -357,8 +357,11 @@ bool TaskRepository::setCompleted(const QString &id, bool completed)
         if (next.isValid()) {
             // A recurring task never shows as completed: it moves on to its next date.
             const bool onDue = task.due_date.has_value();
+            const std::optional<QDateTime> &replaced = onDue ? task.due_date : task.start_date;
             if (onDue ? task.due_is_date_only : task.start_is_date_only)
                 next.setTime(QTime(0, 0));
+            else if (replaced)
+                next = next.toTimeZone(replaced->timeZone()); // same instant, stored as the date was
             if (onDue)
                 task.due_date = next;
             else

@@ -43,8 +43,7 @@ Template fromRow(const QSqlQuery &query)
 TemplateRepository::TemplateRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 QList<Template> TemplateRepository::select(const QString &sqlTail, const QVariantList &values) const
 {

@@ -37,8 +37,7 @@ CalendarView fromRow(const QSqlQuery &query)
 ViewRepository::ViewRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-{
-}
+{ }
 
 QList<CalendarView> ViewRepository::select(const QString &sql, const QVariantList &values) const
 {
@@ -79,8 +78,9 @@ bool ViewRepository::insert(const CalendarView &view)
     QSqlQuery query(m_database->connection());
     const bool ok = RepositorySql::exec(
         query,
-        QStringLiteral("INSERT INTO calendar_views (id, name, color, calendar_ids, is_default, sort_order, sync_status, "
-                       "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+        QStringLiteral(
+            "INSERT INTO calendar_views (id, name, color, calendar_ids, is_default, sort_order, sync_status, "
+            "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
         {text(view.id), text(view.name), text(view.color), text(view.calendar_ids),
          StorageFormat::boolValue(view.is_default), view.sort_order, text(view.sync_status),
          StorageFormat::dateTimeValue(view.created_at.isValid() ? view.created_at : now),
@@ -98,8 +98,9 @@ bool ViewRepository::update(const CalendarView &view)
     QSqlQuery query(m_database->connection());
     const bool ok = RepositorySql::exec(
         query,
-        QStringLiteral("UPDATE calendar_views SET name = ?, color = ?, calendar_ids = ?, is_default = ?, sort_order = ?, "
-                       "sync_status = ?, updated_at = ? WHERE id = ?"),
+        QStringLiteral(
+            "UPDATE calendar_views SET name = ?, color = ?, calendar_ids = ?, is_default = ?, sort_order = ?, "
+            "sync_status = ?, updated_at = ? WHERE id = ?"),
         {text(view.name), text(view.color), text(view.calendar_ids), StorageFormat::boolValue(view.is_default),
          view.sort_order, text(view.sync_status), StorageFormat::dateTimeValue(Clock::nowUtc()), text(view.id)});
     if (!ok) {
@@ -123,7 +124,8 @@ bool ViewRepository::remove(const QString &id)
 {
     const QVariant now = StorageFormat::dateTimeValue(Clock::nowUtc());
     return execWrite(
-        QStringLiteral("UPDATE calendar_views SET deleted_at = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
+        QStringLiteral(
+            "UPDATE calendar_views SET deleted_at = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
         {now, now, text(id)});
 }
 
@@ -136,7 +138,11 @@ bool ViewRepository::reorder(const QStringList &ids)
 {
     if (ids.isEmpty())
         return true;
-    if (!RepositorySql::reorder(m_database->connection(), QStringLiteral("UPDATE calendar_views SET sort_order = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"), ids))
+    if (!RepositorySql::reorder(
+            m_database->connection(),
+            QStringLiteral(
+                "UPDATE calendar_views SET sort_order = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
+            ids))
         return false;
     emit viewsChanged();
     return true;
