@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/Event.h"
+
+#include <QDateTime>
+#include <QDialog>
+
+#include <memory>
+
+class AppState;
+class EventEditor;
+
+// The form for a new or an existing event: title, calendar, all-day, start and end, time zone,
+// repeat (none, daily, weekdays, weekly, monthly, yearly, custom rule text), reminders, location,
+// description and colour. Saving an occurrence of a series asks whether the change is for this
+// event only, this and the following ones, or all of them.
+class EventFormDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    EventFormDialog(AppState *appState, EventEditor *editor, QWidget *parent = nullptr);
+    ~EventFormDialog() override;
+
+    // A new event in the given range; the calendar is preselected by "ui/defaultCalendarId", else
+    // the default calendar, else the first writable one.
+    void setNewEvent(const QDateTime &start, const QDateTime &end, bool allDay);
+    // An existing event, opened on one of its occurrences.
+    void setEvent(const Event &occurrence);
+
+    // After accept(): the event as stored.
+    Event savedEvent() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
