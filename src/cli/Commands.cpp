@@ -7,6 +7,8 @@ const QList<CommandSpec> &allCommands()
         initCommand(),
         icsParseCommand(),
         addCommand(),
+        calendarsCommand(),
+        accountsCommand(),
     };
     return commands;
 }
