@@ -7,10 +7,10 @@ gen_ics=${KB_GEN_ICS:-/work/shared/tools/gen_ics.py}
 data="$build/bench-data"
 
 # Recurrence expansion: the recurring masters of the 100,000-event calendar over a week and a month.
-rows="$data/rows100k.tsv"
-if [[ ! -s "$rows" ]]; then
+calendar="$data/bench100k.ics"
+if [[ ! -s "$calendar" ]]; then
     mkdir -p "$data"
-    /usr/bin/python3 "$gen_ics" -n 100000 --rows-out "$rows.part"
-    mv "$rows.part" "$rows"
+    /usr/bin/python3 "$gen_ics" -n 100000 -o "$calendar.part"
+    mv "$calendar.part" "$calendar"
 fi
-"$build/bin/bench_expansion" --rows "$rows"
+"$build/bin/bench_expansion" --ics "$calendar"

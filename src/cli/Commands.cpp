@@ -7,6 +7,7 @@ const QList<CommandSpec> &allCommands()
         initCommand(),
         icsParseCommand(),
         addCommand(),
+        agendaCommand(),
         calendarsCommand(),
         accountsCommand(),
     };
