@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class AppState;
@@ -47,4 +48,19 @@ public:
 signals:
     // Something failed to be written; the text is for the status bar.
     void failed(const QString &message);
+
+private:
+    std::optional<Event> storedRow(const QString &id);
+    std::optional<Event> masterOf(const Event &occurrence);
+    bool write(const Event &event);
+    void pushUndo(const QString &summary, std::function<void()> undo);
+    bool changeTimes(const Event &occurrence, const QDateTime &newStart, const std::optional<QDateTime> &newEnd,
+                     Scope scope, const QString &summary);
+    // `summary` non-empty: a gesture (times only) that pushes an undo entry; empty: a form save.
+    bool apply(const Event &occurrence, const Event &edited, Scope scope, const QString &summary);
+    bool applyToRow(const Event &occurrence, const Event &edited, const QString &summary);
+    bool makeOverride(const Event &occurrence, const Event &edited, const QString &summary);
+    bool splitAt(const Event &master, const QDateTime &slot, const Event &edited, const QString &summary);
+
+    AppState *m_appState;
 };
