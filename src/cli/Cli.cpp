@@ -56,8 +56,7 @@ Cli::Cli(QTextStream &out, QTextStream &err, QIODevice *in, bool stderrIsTermina
     , m_err(err)
     , m_in(in)
     , m_stderrIsTerminal(stderrIsTerminal)
-{
-}
+{ }
 
 bool Cli::verboseLogging()
 {
@@ -153,7 +152,8 @@ int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments
     if (count < spec.minArguments)
         return context.usageError(tr("missing argument"));
     if (spec.maxArguments >= 0 && count > spec.maxArguments)
-        return context.usageError(tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
+        return context.usageError(
+            tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
     const int status = spec.run(context);
     m_out.flush();
     m_err.flush();
@@ -170,8 +170,9 @@ int Cli::printGeneralHelp()
         m_out << "  " << spec.name().leftJustified(20) << ' ' << spec.summary << '\n';
     m_out << '\n'
           << tr("Global options:") << '\n'
-          << "  --data-dir DIR        " << tr("Use the calendar data in DIR (default: CALENDAR_DATA_DIR, else the "
-                                            "desktop program's data folder).")
+          << "  --data-dir DIR        "
+          << tr("Use the calendar data in DIR (default: CALENDAR_DATA_DIR, else the "
+                "desktop program's data folder).")
           << '\n'
           << "  --verbose             " << tr("Show the program's log output on standard error.") << '\n'
           << "  --version             " << tr("Show the version.") << '\n'

@@ -13,16 +13,15 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-CommandContext::CommandContext(const CommandSpec &spec, QCommandLineParser &parser, QTextStream &out,
-                               QTextStream &err, QIODevice *in, bool progressWanted)
+CommandContext::CommandContext(const CommandSpec &spec, QCommandLineParser &parser, QTextStream &out, QTextStream &err,
+                               QIODevice *in, bool progressWanted)
     : m_spec(spec)
     , m_parser(parser)
     , m_out(out)
     , m_err(err)
     , m_in(in)
     , m_progress(progressWanted)
-{
-}
+{ }
 
 CommandContext::~CommandContext() = default;
 

@@ -5,6 +5,10 @@ const QList<CommandSpec> &allCommands()
 {
     static const QList<CommandSpec> commands = {
         initCommand(),
+        icsParseCommand(),
+        addCommand(),
+        calendarsCommand(),
+        accountsCommand(),
     };
     return commands;
 }

@@ -8,8 +8,12 @@ const QList<CommandSpec> &allCommands();
 
 // One function per command, each in its own source file.
 CommandSpec initCommand();
+CommandSpec icsParseCommand();
+CommandSpec addCommand();
 CommandSpec icsExpandCommand();
 CommandSpec sampleDataAddCommand();
 CommandSpec sampleDataRemoveCommand();
 CommandSpec taskCompleteCommand();
 CommandSpec taskReopenCommand();
+CommandSpec calendarsCommand();
+CommandSpec accountsCommand();

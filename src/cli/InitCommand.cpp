@@ -21,13 +21,12 @@ CommandSpec initCommand()
         const QString path = database->connection().databaseName();
         const int version = database->schemaVersion();
         if (context.json()) {
-            context.printJson(QJsonObject{{QStringLiteral("database"), path},
-                                          {QStringLiteral("schema_version"), version}});
+            context.printJson(
+                QJsonObject{{QStringLiteral("database"), path}, {QStringLiteral("schema_version"), version}});
         } else {
-            context.out() << QCoreApplication::translate("kbcal", "Database ready: %1 (schema version %2)")
-                                 .arg(path)
-                                 .arg(version)
-                          << Qt::endl;
+            context.out()
+                << QCoreApplication::translate("kbcal", "Database ready: %1 (schema version %2)").arg(path).arg(version)
+                << Qt::endl;
         }
         return 0;
     };

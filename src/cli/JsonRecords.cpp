@@ -32,14 +32,10 @@ QJsonObject toJson(const Reminder &reminder)
 QJsonObject toJson(const Attendee &attendee)
 {
     return QJsonObject{
-        {QStringLiteral("id"), attendee.id},
-        {QStringLiteral("event_id"), attendee.event_id},
-        {QStringLiteral("email"), attendee.email},
-        {QStringLiteral("name"), attendee.name},
-        {QStringLiteral("role"), attendee.role},
-        {QStringLiteral("status"), attendee.status},
-        {QStringLiteral("type"), attendee.type},
-        {QStringLiteral("rsvp"), attendee.rsvp},
+        {QStringLiteral("id"), attendee.id},       {QStringLiteral("event_id"), attendee.event_id},
+        {QStringLiteral("email"), attendee.email}, {QStringLiteral("name"), attendee.name},
+        {QStringLiteral("role"), attendee.role},   {QStringLiteral("status"), attendee.status},
+        {QStringLiteral("type"), attendee.type},   {QStringLiteral("rsvp"), attendee.rsvp},
     };
 }
 

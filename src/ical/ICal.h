@@ -22,7 +22,8 @@ namespace ICal {
 
 // The envelope of every calendar object the program writes, and that the event reader wraps
 // around each event it keeps. Lines end in CR LF.
-inline constexpr char kCalendarHead[] = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Kettlebrook//Calendar Desktop//EN\r\n";
+inline constexpr char kCalendarHead[]
+    = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Kettlebrook//Calendar Desktop//EN\r\n";
 inline constexpr char kCalendarTail[] = "END:VCALENDAR\r\n";
 
 // One content line: upper-cased name, parameters (upper-cased name to raw value, in order of
@@ -37,12 +38,23 @@ struct ContentLine
     QString parameter(QStringView name) const;
 };
 
-// Every VEVENT that carries a UID, in the order in which they stand.
+// Every VEVENT that carries a UID, in the order in which they stand. A byte order mark at the
+// start of the text is skipped. Folded lines are joined before the bytes are decoded, so a
+// character split by a fold comes back whole.
 QList<Event> parseEvents(QByteArrayView utf8);
 QList<Event> parseEvents(const QString &text);
 // Every VTODO that carries a UID, in order.
 QList<Task> parseTasks(QByteArrayView utf8);
 QList<Task> parseTasks(const QString &text);
+// A QByteArray converts to both of the above; these pick the byte readers.
+inline QList<Event> parseEvents(const QByteArray &utf8)
+{
+    return parseEvents(QByteArrayView(utf8));
+}
+inline QList<Task> parseTasks(const QByteArray &utf8)
+{
+    return parseTasks(QByteArrayView(utf8));
+}
 
 // Splits text at CR LF or LF and joins folded lines (a piece beginning with a space or a tab
 // continues the previous line, without that first character). Empty pieces are kept as lines.
