@@ -6,9 +6,17 @@ const QList<CommandSpec> &allCommands()
     static const QList<CommandSpec> commands = {
         initCommand(),
         icsParseCommand(),
+        icsExpandCommand(),
         addCommand(),
         calendarsCommand(),
         accountsCommand(),
+        importCommand(),
+        exportCommand(),
+        tasksCommand(),
+        taskCompleteCommand(),
+        taskReopenCommand(),
+        sampleDataAddCommand(),
+        sampleDataRemoveCommand(),
     };
     return commands;
 }
