@@ -7,24 +7,21 @@ gen_ics=${KB_GEN_ICS:-/work/shared/tools/gen_ics.py}
 data="$build/bench-data"
 
 # Recurrence expansion: the recurring masters of the 100,000-event calendar over a week and a month.
-rows="$data/rows100k.tsv"
-if [[ ! -s "$rows" ]]; then
+calendar="$data/bench100k.ics"
+if [[ ! -s "$calendar" ]]; then
     mkdir -p "$data"
-    /usr/bin/python3 "$gen_ics" -n 100000 --rows-out "$rows.part"
-    mv "$rows.part" "$rows"
+    /usr/bin/python3 "$gen_ics" -n 100000 -o "$calendar.part"
+    mv "$calendar.part" "$calendar"
 fi
-"$build/bin/bench_expansion" --rows "$rows"
+"$build/bin/bench_expansion" --ics "$calendar"
 
 # Event storage: a redraw's read of a mid-period week and month through the event repository
 # beside the bare range statement, and the import of the 100,000-event calendar (in process and
 # as a whole `kbcal import`), all over a database filled from the generated file.
-ics=${KB_BENCH_ICS:-/work/data/bench100k.ics}
+ics="$data/bench100k.ics"
 if [[ ! -s "$ics" ]]; then
-    ics="$data/bench100k.ics"
-    if [[ ! -s "$ics" ]]; then
-        mkdir -p "$data"
-        /usr/bin/python3 "$gen_ics" -n 100000 -o "$ics.part"
-        mv "$ics.part" "$ics"
-    fi
+    mkdir -p "$data"
+    /usr/bin/python3 "$gen_ics" -n 100000 -o "$ics.part"
+    mv "$ics.part" "$ics"
 fi
 QT_LOGGING_RULES="*.info=false" "$build/bin/bench_event_storage" --ics "$ics" --kbcal "$build/bin/kbcal" --repeat 30

@@ -55,7 +55,7 @@ CommandSpec addCommand()
              "  kbcal add Lunch with Sam tomorrow at 12:30 for 45 min\n"
              "T is an ISO 8601 date-time (2024-01-05T09:00:00Z, 2024-01-05T10:00:00+01:00, or local time without "
              "an offset) or a date (2024-01-05, local midnight). With --dry-run nothing is stored and the reading "
-             "is printed.");
+             "is printed. Put -- before the text when one of its words begins with a dash.");
     spec.options = {
         QCommandLineOption(QStringLiteral("calendar"), tr("Add the event to the calendar with this id."),
                            QStringLiteral("ID")),

@@ -78,11 +78,14 @@ QDateTime defaultStart(const QDateTime &now);
 // text: empty title, defaultStart(now), no end. A date without a time is all-day, from 00:00 to
 // the next day's 00:00; a time range ends on the same day, or the next day when its end is not
 // after its start; otherwise the end is the start plus the duration (default 60 minutes). With
-// neither date nor time the start is defaultStart(now). Never fails: see ParseResult.
+// neither date nor time the start is defaultStart(now). A wall-clock time that the zone skips (the
+// night the clocks go forward) is read with the offset before the jump, so 02:30 becomes 03:30.
+// The title is the text outside every match, whitespace simplified, without a leading or trailing
+// "on", "at" or "for". Never fails: see ParseResult.
 ParseResult parse(const QString &text, const QDateTime &now);
 
 // Why a non-empty line cannot become an event, as one translated sentence for the user without a
-// final period ("\"jan 40\" is not a valid date"): an impossible date or time, a duration too long to
+// final period ('"jan 40" is not a valid date'): an impossible date or time, a duration too long to
 // count, a start or end outside the years 1 to 9999 (ISO 8601 text, in which events are stored,
 // has four-digit years), or an invalid reference time. Empty when the line is fine, and for an
 // empty line (nothing to make, nothing wrong).
