@@ -8,6 +8,7 @@ const QList<CommandSpec> &allCommands()
         icsParseCommand(),
         icsExpandCommand(),
         addCommand(),
+        agendaCommand(),
         calendarsCommand(),
         accountsCommand(),
         importCommand(),

@@ -10,6 +10,7 @@ const QList<CommandSpec> &allCommands();
 CommandSpec initCommand();
 CommandSpec icsParseCommand();
 CommandSpec addCommand();
+CommandSpec agendaCommand();
 CommandSpec icsExpandCommand();
 CommandSpec sampleDataAddCommand();
 CommandSpec sampleDataRemoveCommand();
