@@ -479,6 +479,8 @@ void TestICal::events_data()
     QTest::newRow("folded description with a tab") << QStringList{"DESCRIPTION:first half,\r\n\tsecond half"} << 1
                                                    << QStringList{"description=first half,second half"};
     QTest::newRow("escapes") << QStringList{"SUMMARY:a\\,b\\nc"} << 1 << QStringList{"title=a,b\nc"};
+    QTest::newRow("upper-case N and backslashes")
+        << QStringList{"DESCRIPTION:a\\Nb\\\\nc\\\\"} << 1 << QStringList{"description=a\nb\\nc\\"};
     QTest::newRow("unknown escape kept") << QStringList{"LOCATION:C:\\temp\\;x\\"} << 1
                                          << QStringList{"location=C:\\temp;x\\"};
     QTest::newRow("UID unescaped") << QStringList{"BEGIN:VEVENT", "UID:a\\,b", "END:VEVENT"} << 1
@@ -505,6 +507,8 @@ void TestICal::events_data()
     QTest::newRow("sequence not a number")
         << QStringList{"SEQUENCE:3", "SEQUENCE:three"} << 1 << QStringList{"sequence=0"};
     QTest::newRow("sequence too large") << QStringList{"SEQUENCE:2147483648"} << 1 << QStringList{"sequence=0"};
+    QTest::newRow("digits then NUL are no number")
+        << QStringList{QString::fromUtf8("SEQUENCE:2\0\0", 12)} << 1 << QStringList{"sequence=0"};
 
     // Organizer.
     QTest::newRow("organizer with quoted CN and MAILTO")
@@ -679,6 +683,8 @@ void TestICal::tasks_data()
                                              << 1 << QStringList{"sort_order=20"};
     QTest::newRow("word sort order ignored")
         << QStringList{"X-KETTLEBROOK-SORT-ORDER:abc"} << 1 << QStringList{"sort_order=0"};
+    QTest::newRow("sort order digits then NUL ignored")
+        << QStringList{QString::fromUtf8("X-KETTLEBROOK-SORT-ORDER:5\0", 27)} << 1 << QStringList{"sort_order=0"};
     QTest::newRow("alarm description replaces")
         << QStringList{"DESCRIPTION:Call the bank", "BEGIN:VALARM", "DESCRIPTION:Reminder", "END:VALARM"} << 1
         << QStringList{"description=Reminder"};
@@ -1045,6 +1051,11 @@ void TestICal::hostileText_data()
     QTest::newRow("8 MiB line outside events") << "X-JUNK:" + bigValue + "\r\nBEGIN:VEVENT\r\nUID:a\r\nEND:VEVENT\r\n"
                                                << 1 << QStringList{"uid=a"};
     QTest::newRow("8 MiB line without any break") << bigValue << 0 << QStringList{};
+    QByteArray escaped;
+    for (int i = 0; i < 50000; ++i)
+        escaped += "\xc3\xa4\\,b\\n";
+    QTest::newRow("long escaped text") << "BEGIN:VEVENT\r\nUID:long\r\nDESCRIPTION:" + escaped + "\r\nEND:VEVENT\r\n"
+                                       << 1 << QStringList{"uid=long"};
     QByteArray folds = "BEGIN:VEVENT\r\nUID:folds\r\nDESCRIPTION:";
     for (int i = 0; i < 1000000; ++i)
         folds += "\r\n y";
@@ -1096,6 +1107,8 @@ void TestICal::hostileText()
     if (QTest::currentDataTag() == QByteArrayView("8 MiB line in an event")) {
         QCOMPARE(parsed.at(0).title.size(), 8 << 20);
         QCOMPARE(parsed.at(0).raw_icalendar.size(), kHead.size() + (8 << 20) + 45 + kTail.size());
+    } else if (QTest::currentDataTag() == QByteArrayView("long escaped text")) {
+        QCOMPARE(parsed.at(0).description, QString::fromUtf8("\u00e4,b\n").repeated(50000));
     } else if (QTest::currentDataTag() == QByteArrayView("a million folds in one line")) {
         QCOMPARE(parsed.at(0).description, QString(1000000, QLatin1Char('y')));
     } else if (QTest::currentDataTag() == QByteArrayView("a million empty lines in an event")) {
@@ -1142,6 +1155,7 @@ void TestICal::sameResultsAsPlainReader()
                                       ",",
                                       "\\",
                                       "\\n",
+                                      "\\N",
                                       "\"",
                                       "T",
                                       "Z",

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets with clang and the sanitizers and runs each for FUZZ_SECONDS
 # (default 600). Seeds come from fuzz/corpus/NAME and tokens from fuzz/NAME.dict when present; new
-# inputs go to build-fuzz/corpus/NAME and crashing inputs to build-fuzz/artifacts/NAME. Usage: run-fuzzers.sh [NAME...]
+# inputs go to build-fuzz/corpus/NAME and crashing inputs to build-fuzz/artifacts/NAME.
+# Usage: run-fuzzers.sh [NAME...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

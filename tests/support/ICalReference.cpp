@@ -46,11 +46,20 @@ QByteArray crlf(const QByteArray &line)
     return line + "\r\n";
 }
 
-int integerOrZero(const QString &value)
+// A decimal number, or nullopt. QString::toInt reads up to a NUL and ignores the rest, but digits
+// followed by NUL bytes are no number.
+std::optional<int> integer(const QString &value)
 {
     bool ok = false;
     const int number = value.toInt(&ok);
-    return ok ? number : 0;
+    if (!ok || value.contains(QChar(0)))
+        return std::nullopt;
+    return number;
+}
+
+int integerOrZero(const QString &value)
+{
+    return integer(value).value_or(0);
 }
 
 bool isParent(const ICal::ContentLine &line)
@@ -166,10 +175,9 @@ void readTaskLine(Task &task, const ICal::ContentLine &line)
         if (value.trimmed() == QLatin1String("fromCompletionDate"))
             task.repeat_mode = QStringLiteral("fromCompletionDate");
     } else if (name == QLatin1String("X-KETTLEBROOK-SORT-ORDER")) {
-        bool ok = false;
-        const int order = value.trimmed().toInt(&ok);
-        if (ok && order > 0)
-            task.sort_order = order;
+        const std::optional<int> order = integer(value.trimmed());
+        if (order && *order > 0)
+            task.sort_order = *order;
     }
 }
 
