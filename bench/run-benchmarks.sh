@@ -1,30 +1,37 @@
 #!/usr/bin/env bash
 # Runs every benchmark against generated calendars and prints their figures.
-# Usage: run-benchmarks.sh [BUILD_DIR]   (GEN_ICS overrides the path of the calendar generator)
+# Usage: run-benchmarks.sh [BUILD_DIR]   (KB_GEN_ICS overrides the path of the calendar generator)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build}
-generator=${GEN_ICS:-/work/shared/tools/gen_ics.py}
+# The generator of benchmark calendars (python3-dateutil needed).
+gen_ics=${KB_GEN_ICS:-/work/shared/tools/gen_ics.py}
+data="$build/bench-data"
 
 # 100,000 events and 5,000 tasks, about 73 MB; made once per build folder.
-feed="$build/bench100k.ics"
-if [ ! -f "$feed" ]; then
-    echo "== generating $feed"
-    /usr/bin/python3 "$generator" -n 100000 -o "$feed.tmp"
-    mv "$feed.tmp" "$feed"
+calendar="$data/bench100k.ics"
+if [[ ! -s "$calendar" ]]; then
+    mkdir -p "$data"
+    /usr/bin/python3 "$gen_ics" -n 100000 -o "$calendar.part"
+    mv "$calendar.part" "$calendar"
 fi
 
-echo "== iCalendar readers (bench_ical_parse)"
-"$build/bin/bench_ical_parse" "$feed" 5
+# Recurrence expansion: the recurring masters of the 100,000-event calendar over a week and a month.
+"$build/bin/bench_expansion" --ics "$calendar"
 
-echo "== whole process: kbcal ics parse FILE --json >/dev/null"
+# The iCalendar readers over the whole calendar: events per second and peak memory.
+echo "== bench_ical_parse"
+"$build/bin/bench_ical_parse" "$calendar" 5
+
+# The whole process of reading the calendar and printing it as JSON.
+echo "== kbcal ics parse FILE --json >/dev/null"
 if command -v hyperfine > /dev/null; then
-    hyperfine --warmup 1 --runs 5 "$build/bin/kbcal ics parse $feed --json >/dev/null"
+    hyperfine --warmup 1 --runs 5 "$build/bin/kbcal ics parse $calendar --json >/dev/null"
 else
     times=()
     for _ in 1 2 3 4 5; do
         start=$(date +%s.%N)
-        "$build/bin/kbcal" ics parse "$feed" --json > /dev/null
+        "$build/bin/kbcal" ics parse "$calendar" --json > /dev/null
         times+=("$(echo "$(date +%s.%N) - $start" | bc)")
     done
     printf '%s\n' "${times[@]}" | sort -n | sed -n '3s/^/median of 5 runs (s): /p'

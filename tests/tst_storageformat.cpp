@@ -34,6 +34,8 @@ private slots:
     void newIdsAreBracelessUuids();
     void recordDefaults();
     void clockCanBePinned();
+    void readingMatchesTheGeneralParser_data();
+    void readingMatchesTheGeneralParser();
 
 private:
     QSqlDatabase m_db;
@@ -65,11 +67,9 @@ void TestStorageFormat::dateTimeText_data()
                                  << "2025-03-14T10:30:00+01:00";
     QTest::newRow("zone summer") << QDateTime(QDate(2025, 7, 1), QTime(10, 30), QTimeZone("Europe/Berlin"))
                                  << "2025-07-01T10:30:00+02:00";
-    QTest::newRow("offset") << QDateTime(d, QTime(10, 30), QTimeZone(-5 * 3600))
-                            << "2025-03-14T10:30:00-05:00";
+    QTest::newRow("offset") << QDateTime(d, QTime(10, 30), QTimeZone(-5 * 3600)) << "2025-03-14T10:30:00-05:00";
     QTest::newRow("floating local") << QDateTime(d, QTime(10, 30)) << "2025-03-14T10:30:00";
-    QTest::newRow("milliseconds dropped") << QDateTime(d, QTime(9, 30, 5, 999), Qt::UTC)
-                                          << "2025-03-14T09:30:05Z";
+    QTest::newRow("milliseconds dropped") << QDateTime(d, QTime(9, 30, 5, 999), Qt::UTC) << "2025-03-14T09:30:05Z";
     QTest::newRow("invalid") << QDateTime() << "";
 }
 
@@ -219,6 +219,45 @@ void TestStorageFormat::clockCanBePinned()
     Clock::setFixedNow(QDateTime());
     QVERIFY(qAbs(Clock::nowUtc().secsTo(QDateTime::currentDateTimeUtc())) < 5);
     QCOMPARE(Clock::nowUtc().time().msec(), 0);
+}
+
+void TestStorageFormat::readingMatchesTheGeneralParser_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("utc") << "2025-03-14T09:30:00Z";
+    QTest::newRow("east of utc") << "2025-03-14T10:30:00+01:00";
+    QTest::newRow("west of utc") << "2025-07-01T10:30:00-04:00";
+    QTest::newRow("half-hour offset") << "2025-07-01T10:30:00+05:30";
+    QTest::newRow("zero offset") << "2025-07-01T10:30:00+00:00";
+    QTest::newRow("floating") << "2025-03-14T10:30:00";
+    QTest::newRow("floating in the spring gap") << "2025-03-30T02:30:00";
+    QTest::newRow("leap day") << "2024-02-29T23:59:59Z";
+    QTest::newRow("no leap day") << "2025-02-29T10:00:00Z";
+    QTest::newRow("hour 24") << "2025-03-14T24:00:00Z";
+    QTest::newRow("minute 60") << "2025-03-14T10:60:00Z";
+    QTest::newRow("fraction") << "2025-03-14T09:30:00.250Z";
+    QTest::newRow("offset without colon") << "2025-03-14T10:30:00+0100";
+    QTest::newRow("lower-case z") << "2025-03-14T09:30:00z";
+    QTest::newRow("letters") << "2025-0a-14T09:30:00Z";
+    QTest::newRow("date only") << "2025-03-14";
+    QTest::newRow("minutes only") << "2025-03-14T09:30Z";
+    QTest::newRow("sqlite default") << "2025-03-14 09:30:00";
+}
+
+void TestStorageFormat::readingMatchesTheGeneralParser()
+{
+    QFETCH(QString, text);
+    QDateTime expected = QDateTime::fromString(text, Qt::ISODate);
+    if (text.size() == 19 && text.at(10) == QLatin1Char(' '))
+        expected.setTimeZone(QTimeZone::utc());
+    const QDateTime value = parseDateTime(text);
+    QCOMPARE(value.isValid(), expected.isValid());
+    if (!expected.isValid())
+        return;
+    QCOMPARE(value, expected);
+    QCOMPARE(value.timeSpec(), expected.timeSpec());
+    QCOMPARE(value.offsetFromUtc(), expected.offsetFromUtc());
+    QCOMPARE(value.toString(Qt::ISODateWithMs), expected.toString(Qt::ISODateWithMs));
 }
 
 QTEST_GUILESS_MAIN(TestStorageFormat)

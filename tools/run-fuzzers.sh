@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets with clang and the sanitizers and runs each for FUZZ_SECONDS
-# (default 600). Seeds come from fuzz/corpus/NAME and tokens from fuzz/NAME.dict when present; new
-# inputs go to build-fuzz/corpus/NAME and crashing inputs to build-fuzz/artifacts/NAME.
+# (default 600). Seeds come from fuzz/corpus/NAME, a dictionary from fuzz/NAME.dict when there is
+# one; new inputs go to build-fuzz/corpus/NAME and crashing inputs to build-fuzz/artifacts/NAME.
 # Usage: run-fuzzers.sh [NAME...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -31,11 +31,11 @@ for t in "${targets[@]}"; do
     mkdir -p "$build/corpus/$t" "$build/artifacts/$t"
     seeds=()
     [ -d "fuzz/corpus/$t" ] && seeds=("fuzz/corpus/$t")
-    options=()
-    [ -f "fuzz/$t.dict" ] && options=(-dict="fuzz/$t.dict")
+    dict=()
+    [ -f "fuzz/$t.dict" ] && dict=("-dict=fuzz/$t.dict")
     echo "== $t for ${seconds}s"
     if ! "$build/bin/$t" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=1048576 \
-        -artifact_prefix="$build/artifacts/$t/" -print_final_stats=1 "${options[@]}" "$build/corpus/$t" "${seeds[@]}"; then
+        -artifact_prefix="$build/artifacts/$t/" -print_final_stats=1 "${dict[@]}" "$build/corpus/$t" "${seeds[@]}"; then
         echo "== $t found a failure; see $build/artifacts/$t/"
         status=1
     fi

@@ -1,32 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/AppEnvironment.h"
-#include "storage/Database.h"
+#include "app/Application.h"
+#include "app/SingleInstance.h"
 
-#include <QApplication>
-#include <QMainWindow>
-#include <QMessageBox>
+#include <QLoggingCategory>
 
 int main(int argc, char *argv[])
 {
-    QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Kettlebrook"));
-    QCoreApplication::setApplicationName(QStringLiteral("Calendar"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.3.2"));
+    // Only warnings and worse outside a development instance, unless the user set rules.
+    if (!AppEnvironment::isDevInstance() && qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false"));
 
-    Database database;
-    const bool ready = database.open(AppEnvironment::databasePath()) && (database.migrate(), database.isUpToDate());
-    if (!ready) {
-        QMessageBox::critical(nullptr, QCoreApplication::translate("Application", "Database Error"),
-                              QCoreApplication::translate("Application",
-                                                          "Failed to initialize the database.\n\nData directory: "
-                                                          "%1\n\nPlease check file permissions and try again.")
-                                  .arg(AppEnvironment::dataDirectory()));
-        return 1;
-    }
+    Application app(argc, argv);
+    auto *guard = new SingleInstance(&app);
 
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Kettlebrook Calendar"));
-    window.resize(1200, 800);
-    window.show();
-    return app.exec();
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    if (guard->forwardToRunningInstance(arguments))
+        return 0;
+
+    app.setSingleInstance(guard);
+    app.setPendingCommand(SingleInstance::commandFromArguments(arguments));
+    return app.run();
 }

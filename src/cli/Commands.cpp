@@ -6,6 +6,10 @@ const QList<CommandSpec> &allCommands()
     static const QList<CommandSpec> commands = {
         initCommand(),
         icsParseCommand(),
+        addCommand(),
+        agendaCommand(),
+        calendarsCommand(),
+        accountsCommand(),
     };
     return commands;
 }

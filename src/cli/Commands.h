@@ -9,3 +9,12 @@ const QList<CommandSpec> &allCommands();
 // One function per command, each in its own source file.
 CommandSpec initCommand();
 CommandSpec icsParseCommand();
+CommandSpec addCommand();
+CommandSpec agendaCommand();
+CommandSpec icsExpandCommand();
+CommandSpec sampleDataAddCommand();
+CommandSpec sampleDataRemoveCommand();
+CommandSpec taskCompleteCommand();
+CommandSpec taskReopenCommand();
+CommandSpec calendarsCommand();
+CommandSpec accountsCommand();

@@ -12,8 +12,7 @@ Database::Database(QObject *parent)
     : QObject(parent)
     , m_connectionName(QString::fromLatin1(QSqlDatabase::defaultConnection))
     , m_migrations(builtInMigrations())
-{
-}
+{ }
 
 Database::~Database()
 {
@@ -32,11 +31,13 @@ const QList<Migration> &Database::builtInMigrations()
         {2, QStringLiteral("event_sync"), QStringLiteral(":/sql/sql/migrations/002_event_sync.sql")},
         {3, QStringLiteral("tasks_sync"), QStringLiteral(":/sql/sql/migrations/003_tasks_sync.sql")},
         {4, QStringLiteral("accounts_sort_order"), QStringLiteral(":/sql/sql/migrations/004_accounts_sort_order.sql")},
-        {5, QStringLiteral("provider_event_idx"), QStringLiteral(":/sql/sql/migrations/005_provider_event_id_index.sql")},
+        {5, QStringLiteral("provider_event_idx"),
+         QStringLiteral(":/sql/sql/migrations/005_provider_event_id_index.sql")},
         {6, QStringLiteral("events_uid_unique"), QStringLiteral(":/sql/sql/migrations/006_events_uid_unique.sql")},
         {7, QStringLiteral("tasks_dateonly_repeat"),
          QStringLiteral(":/sql/sql/migrations/007_tasks_dateonly_and_repeat_mode.sql")},
-        {8, QStringLiteral("accounts_soft_delete"), QStringLiteral(":/sql/sql/migrations/008_accounts_soft_delete.sql")},
+        {8, QStringLiteral("accounts_soft_delete"),
+         QStringLiteral(":/sql/sql/migrations/008_accounts_soft_delete.sql")},
         {9, QStringLiteral("event_related_to"), QStringLiteral(":/sql/sql/migrations/009_event_related_to.sql")},
     };
     return list;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/Event.h"
+#include "storage/StatementCache.h"
 
 #include <QDateTime>
 #include <QList>
@@ -9,7 +10,9 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+#include <QVariantList>
 
+#include <memory>
 #include <optional>
 
 class Database;
@@ -44,10 +47,18 @@ public:
     // Title, location or description containing the trimmed text; empty text finds nothing.
     QList<Event> search(const QString &text, int limit) const;
 
+    // Writes the row, then its reminder and attendee rows (replacing the stored ones); the result
+    // is the row's alone. An empty sync_status is stored as "synced". created and last_modified are
+    // stored as the record holds them; a record without them is stamped with the current time.
     bool insert(const Event &event);
+    // Rewrites every column but id and created, then the child rows. An empty sync_status is
+    // stored as "pending"; last_modified is always the current time. False when no row has the id.
     bool update(const Event &event);
+    // Soft delete: the row becomes a "pending" tombstone. False when no row has the id.
     bool remove(const QString &id);
+    // Removes the row with its child rows for good. False when no row has the id.
     bool hardDelete(const QString &id);
+    // After a successful push: stores the server's href and etag and marks the row "synced".
     bool markSynced(const QString &id, const QString &href, const QString &etag);
     // Undo of a delete: clears the tombstone, or re-inserts the row as new when it is gone.
     bool restore(const Event &event);
@@ -57,8 +68,16 @@ signals:
 
 private:
     void notifyChanged(const QString &calendarId);
+    QList<Event> selectEvents(const char *operation, const QString &sql, const QVariantList &values,
+                              bool withChildRows) const;
+    std::optional<Event> selectEvent(const char *operation, const QString &sql, const QVariantList &values) const;
+    void loadChildRows(QList<Event> &events) const;
+    void loadChildRows(Event &event) const;
+    std::optional<QString> calendarOf(const char *operation, const QString &id) const;
+    void writeChildRows(const Event &event);
 
     Database *m_database;
     QTimer m_changeTimer;
     QString m_pendingCalendarId;
+    std::unique_ptr<StatementCache> m_statements;
 };

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CommandContext.h"
+#include "cli/Commands.h"
+#include "cli/JsonRecords.h"
+#include "cli/TextTable.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+#include "storage/Database.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kbcal", text);
+}
+
+QString flagsOf(const Calendar &calendar)
+{
+    QStringList flags;
+    if (calendar.is_default)
+        flags.append(tr("default"));
+    if (!calendar.is_visible)
+        flags.append(tr("hidden"));
+    if (calendar.is_read_only)
+        flags.append(tr("read-only"));
+    if (calendar.is_shared)
+        flags.append(tr("shared"));
+    if (calendar.shared_with_me)
+        flags.append(tr("shared with me"));
+    if (!calendar.last_sync_error.isEmpty())
+        flags.append(tr("sync error: %1").arg(calendar.last_sync_error));
+    return flags.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+CommandSpec calendarsCommand()
+{
+    CommandSpec spec;
+    spec.words = {QStringLiteral("calendars")};
+    spec.synopsis = QStringLiteral("[--json]");
+    spec.summary = tr("List the calendars.");
+    spec.description = tr("Lists every calendar in the order the desktop program shows them, with its account, "
+                          "colour and state. With --json, prints the calendar records.");
+    spec.run = [](CommandContext &context) {
+        Database *database = context.database();
+        if (!database)
+            return 1;
+        const QList<Calendar> calendars = CalendarRepository(database).getAll();
+        if (context.json()) {
+            context.printJson(JsonRecords::toJsonArray(calendars));
+            return 0;
+        }
+        if (calendars.isEmpty()) {
+            context.out() << tr("No calendars.") << Qt::endl;
+            return 0;
+        }
+        // Tombstoned accounts too: their calendars are still there until sync removes them.
+        QHash<QString, QString> accountNames;
+        for (const Account &account : AccountRepository(database).getAllIncludingDeleted())
+            accountNames.insert(account.id, account.name);
+        TextTable table({tr("NAME"), tr("ID"), tr("ACCOUNT"), tr("COLOUR"), tr("STATE")});
+        for (const Calendar &calendar : calendars) {
+            table.addRow({calendar.name, calendar.id, accountNames.value(calendar.account_id, calendar.account_id),
+                          calendar.color, flagsOf(calendar)});
+        }
+        table.print(context.out());
+        return 0;
+    };
+    return spec;
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CommandContext.h"
+#include "cli/Commands.h"
+#include "storage/CalendarChoice.h"
+#include "storage/Database.h"
+#include "storage/EventImport.h"
+#include "storage/EventRepository.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kbcal", text);
+}
+
+} // namespace
+
+CommandSpec importCommand()
+{
+    CommandSpec spec;
+    spec.words = {QStringLiteral("import")};
+    spec.synopsis = QStringLiteral("FILE [--calendar ID] [--json]");
+    spec.summary = tr("Import the events of an iCalendar file.");
+    spec.description = tr("Imports the events of FILE into a calendar: --calendar, else the calendar chosen for new "
+                          "events (the preference ui/defaultCalendarId, else the default calendar, else the first "
+                          "one). An event already in the calendar (same UID and recurrence id) is updated, any "
+                          "other is added. Either the whole file is imported or, on an error, nothing.");
+    spec.options = {
+        QCommandLineOption(QStringLiteral("calendar"), tr("Import into the calendar ID."), QStringLiteral("ID")),
+    };
+    spec.minArguments = 1;
+    spec.maxArguments = 1;
+    spec.run = [](CommandContext &context) {
+        Database *database = context.database();
+        if (!database)
+            return 1;
+        const CalendarChoice::Choice choice
+            = CalendarChoice::forNewEvents(*database, context.parser().value(QStringLiteral("calendar")));
+        if (!choice.calendar)
+            return context.fail(choice.error);
+
+        EventRepository events(database);
+        EventImport::Progress progress;
+        if (context.progress()) {
+            progress = [&context](int done, int total) {
+                context.err() << tr("Importing: %1 of %2 events").arg(done).arg(total) << '\r';
+                if (done == total)
+                    context.err() << '\n';
+                context.err().flush();
+            };
+        }
+        const EventImport::Result result = EventImport::importFile(*database, events, context.arguments().constFirst(),
+                                                                   choice.calendar->id, progress);
+        if (!result.error.isEmpty())
+            return context.fail(result.error);
+
+        if (context.json()) {
+            context.printJson(QJsonObject{{QStringLiteral("calendar_id"), choice.calendar->id},
+                                          {QStringLiteral("imported"), result.imported},
+                                          {QStringLiteral("updated"), result.updated}});
+        } else {
+            context.out() << EventImport::summary(result, choice.calendar->name) << Qt::endl;
+        }
+        return 0;
+    };
+    return spec;
+}

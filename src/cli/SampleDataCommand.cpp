@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CommandContext.h"
+#include "cli/Commands.h"
+#include "storage/Database.h"
+#include "storage/EventRepository.h"
+#include "storage/SampleData.h"
+#include "storage/TaskRepository.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QSqlQuery>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kbcal", text);
+}
+
+int countRows(Database *database, const QString &sql)
+{
+    QSqlQuery query(database->connection());
+    return query.exec(sql) && query.next() ? query.value(0).toInt() : 0;
+}
+
+} // namespace
+
+CommandSpec sampleDataAddCommand()
+{
+    CommandSpec spec;
+    spec.words = {QStringLiteral("sample-data"), QStringLiteral("add")};
+    spec.synopsis = QStringLiteral("[--json]");
+    spec.summary = tr("Add a sample week of events and tasks.");
+    spec.description = tr("Adds the account \"Sample Data\" with four calendars, a week of events around today and a "
+                          "few tasks, to show what the calendar looks like. Whatever of it is already there is left "
+                          "as it is. 'kbcal sample-data remove' takes it away again.");
+    spec.run = [](CommandContext &context) {
+        Database *database = context.database();
+        if (!database)
+            return 1;
+        EventRepository events(database);
+        TaskRepository tasks(database);
+        seedSampleData(*database, events, tasks);
+        const int calendars = countRows(database,
+                                        QStringLiteral("SELECT COUNT(*) FROM calendars WHERE id LIKE "
+                                                       "'sample-cal-%'"));
+        const int eventCount = countRows(database,
+                                         QStringLiteral("SELECT COUNT(*) FROM events WHERE id LIKE "
+                                                        "'sample-event-%'"));
+        const int taskCount = countRows(database,
+                                        QStringLiteral("SELECT COUNT(*) FROM tasks WHERE id LIKE "
+                                                       "'sample-task-%'"));
+        if (context.json()) {
+            context.printJson(QJsonObject{{QStringLiteral("calendars"), calendars},
+                                          {QStringLiteral("events"), eventCount},
+                                          {QStringLiteral("tasks"), taskCount}});
+        } else {
+            context.out()
+                << tr("Sample data: %1 calendars, %2 events, %3 tasks.").arg(calendars).arg(eventCount).arg(taskCount)
+                << Qt::endl;
+        }
+        return 0;
+    };
+    return spec;
+}
+
+CommandSpec sampleDataRemoveCommand()
+{
+    CommandSpec spec;
+    spec.words = {QStringLiteral("sample-data"), QStringLiteral("remove")};
+    spec.synopsis = QStringLiteral("[--json]");
+    spec.summary = tr("Remove the sample events, tasks, calendars and account.");
+    spec.description = tr("Deletes everything 'kbcal sample-data add' created and prints how many rows went.");
+    spec.run = [](CommandContext &context) {
+        Database *database = context.database();
+        if (!database)
+            return 1;
+        const int removed = removeSampleData(*database);
+        if (context.json())
+            context.printJson(QJsonObject{{QStringLiteral("removed"), removed}});
+        else
+            context.out() << tr("Removed %1 sample rows.").arg(removed) << Qt::endl;
+        return 0;
+    };
+    return spec;
+}

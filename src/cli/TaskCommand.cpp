@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CommandContext.h"
+#include "cli/Commands.h"
+#include "cli/JsonRecords.h"
+#include "storage/TaskRepository.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("kbcal", text);
+}
+
+QString dueText(const Task &task)
+{
+    if (!task.due_date)
+        return QString();
+    return task.due_is_date_only ? task.due_date->date().toString(Qt::ISODate)
+                                 : task.due_date->toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+int changeTask(CommandContext &context, bool complete)
+{
+    const QString id = context.arguments().constFirst();
+    Database *database = context.database();
+    if (!database)
+        return 1;
+    TaskRepository tasks(database);
+    const std::optional<Task> before = tasks.getById(id);
+    if (!before || before->deleted_at)
+        return context.fail(tr("there is no task %1").arg(id));
+    if (!tasks.setCompleted(id, complete))
+        return context.fail(tr("could not change the task %1").arg(id));
+    const Task after = *tasks.getById(id);
+
+    if (context.json()) {
+        context.printJson(JsonRecords::toJson(after));
+        return 0;
+    }
+    if (!complete)
+        context.out() << tr("Reopened: %1").arg(after.title) << '\n';
+    else if (after.status == QLatin1String("completed"))
+        context.out() << tr("Completed: %1").arg(after.title) << '\n';
+    else if (after.due_date)
+        context.out() << tr("Done; next due %1: %2").arg(dueText(after), after.title) << '\n';
+    else
+        context.out() << tr("Done; next start %1: %2")
+                             .arg(after.start_date ? after.start_date->date().toString(Qt::ISODate) : QString(),
+                                  after.title)
+                      << '\n';
+    context.out().flush();
+    return 0;
+}
+
+CommandSpec taskChangeCommand(const QString &word, const QString &summary, const QString &description, bool complete)
+{
+    CommandSpec spec;
+    spec.words = {QStringLiteral("task"), word};
+    spec.synopsis = QStringLiteral("ID [--json]");
+    spec.summary = summary;
+    spec.description = description;
+    spec.minArguments = 1;
+    spec.maxArguments = 1;
+    spec.run = [complete](CommandContext &context) {
+        return changeTask(context, complete);
+    };
+    return spec;
+}
+
+} // namespace
+
+CommandSpec taskCompleteCommand()
+{
+    return taskChangeCommand(QStringLiteral("complete"), tr("Complete a task."),
+                             tr("Marks the task ID as completed. A repeating task is not closed: it moves on to its "
+                                "next date and stays open. Prints the task after the change."),
+                             true);
+}
+
+CommandSpec taskReopenCommand()
+{
+    return taskChangeCommand(QStringLiteral("reopen"), tr("Reopen a completed task."),
+                             tr("Marks the task ID as not completed. Prints the task after the change."), false);
+}
