@@ -106,6 +106,9 @@ void TestKbcalEvents::init()
                                "('home', 'acc', 'local://calendar/home', 'Home', 20), "
                                "('work', 'acc', 'local://calendar/work', 'Work', 10)")));
     QVERIFY(sql(QStringLiteral("UPDATE calendars SET is_read_only = 1 WHERE id = 'feed'")));
+    // These calendars stand in for the on-device one that the first start seeded.
+    QVERIFY(sql(QStringLiteral("DELETE FROM calendars WHERE id = 'kettlebrook-personal-default'")));
+    QVERIFY(sql(QStringLiteral("DELETE FROM accounts WHERE id = 'personal-local-account'")));
 }
 
 void TestKbcalEvents::cleanup()

@@ -148,10 +148,16 @@ void TestKbcalLists::emptyStore_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("id");
+    // A new store holds what every start seeds while signed out: the on-device calendar.
     QTest::newRow("calendars") << "calendars"
-                               << "No calendars.\n";
+                               << "NAME      ID                            ACCOUNT         COLOUR   STATE\n"
+                                  "Personal  kettlebrook-personal-default  On This Device  #4285F4\n"
+                               << "kettlebrook-personal-default";
     QTest::newRow("accounts") << "accounts"
-                              << "No accounts.\n";
+                              << "NAME            ID                      TYPE         SERVER  USER  STATE\n"
+                                 "On This Device  personal-local-account  kettlebrook                enabled\n"
+                              << "personal-local-account";
 }
 
 void TestKbcalLists::emptyStore()
@@ -166,7 +172,8 @@ void TestKbcalLists::emptyStore()
     QCOMPARE(asJson.status, 0);
     const QJsonDocument doc = QJsonDocument::fromJson(asJson.out.toUtf8());
     QVERIFY(doc.isArray());
-    QVERIFY(doc.array().isEmpty());
+    QCOMPARE(doc.array().size(), 1);
+    QTEST(doc.array().first().toObject().value(QStringLiteral("id")).toString(), "id");
 }
 
 void TestKbcalLists::calendarsAsJson()

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -100,6 +101,7 @@ private slots:
     void kbcalDefaultsToTheClock();
     void kbcalErrors_data();
     void kbcalErrors();
+    void kbcalStoresTheEvent();
     void kbcalDryRunOpensNothing();
 };
 
@@ -855,9 +857,6 @@ void TestNLParser::kbcalErrors_data()
                                      << "kbcal: \"jan 40\" is not a valid date";
     QTest::newRow("impossible time") << QStringList{"Meet at 9:75", "--dry-run"} << 1
                                      << "kbcal: \"at 9:75\" is not a valid time";
-    QTest::newRow("storing is not there yet")
-        << QStringList{"Standup", "--now", "2024-03-15T14:10:00Z"} << 1
-        << "kbcal: add without --dry-run needs event storage, which this build does not have yet";
 }
 
 void TestNLParser::kbcalErrors()
@@ -876,6 +875,35 @@ void TestNLParser::kbcalErrors()
     else
         QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFileInfo::exists(dataDir));
+}
+
+void TestNLParser::kbcalStoresTheEvent()
+{
+    QTemporaryDir dir;
+    const QString dataDir = dir.filePath(QStringLiteral("data"));
+    const Result result = runKbcal({"--data-dir", dataDir, "add", "Lunch with Sam", "tomorrow", "at", "12:30", "--now",
+                                    "2024-03-15T14:10:00+01:00", "--json"});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err, QString());
+    const QJsonObject event = QJsonDocument::fromJson(result.out.toUtf8()).object();
+    QCOMPARE(event.value(QStringLiteral("title")).toString(), QStringLiteral("Lunch with Sam"));
+    QCOMPARE(event.value(QStringLiteral("calendar_id")).toString(), QStringLiteral("kettlebrook-personal-default"));
+    QCOMPARE(event.value(QStringLiteral("sync_status")).toString(), QStringLiteral("pending"));
+    QCOMPARE(event.value(QStringLiteral("id")).toString(), event.value(QStringLiteral("uid")).toString());
+    QVERIFY(event.value(QStringLiteral("raw_icalendar")).toString().contains(QStringLiteral("SUMMARY:Lunch with Sam\r\n")));
+
+    // It is stored: the agenda of that day lists it.
+    const Result agenda = runKbcal({"--data-dir", dataDir, "agenda", "--from", "2024-03-16", "--days", "1", "--json"});
+    QCOMPARE(agenda.status, 0);
+    const QJsonArray occurrences
+        = QJsonDocument::fromJson(agenda.out.toUtf8()).object().value(QStringLiteral("occurrences")).toArray();
+    QCOMPARE(occurrences.size(), 1);
+    QCOMPARE(occurrences.first().toObject().value(QStringLiteral("id")), event.value(QStringLiteral("id")));
+
+    const Result unknown = runKbcal({"--data-dir", dataDir, "add", "Standup", "--calendar", "nope"});
+    QCOMPARE(unknown.status, 1);
+    QVERIFY2(unknown.err.startsWith(QStringLiteral("kbcal: ")), qPrintable(unknown.err));
+    QCOMPARE(unknown.err.count(QLatin1Char('\n')), 1);
 }
 
 void TestNLParser::kbcalDryRunOpensNothing()
