@@ -5,9 +5,15 @@
 #include <QByteArray>
 #include <QPointer>
 
+#include <memory>
+
 #include "app/SingleInstance.h"
 
+class AppState;
+class MainWindow;
+class NotificationService;
 class QTranslator;
+class TrayManager;
 
 // The desktop program: owns the long-lived top-level objects and starts them in a fixed order.
 class Application : public QApplication
@@ -25,13 +31,16 @@ public:
     // Starts the program and runs the event loop; returns the exit status.
     int run();
 
-    // The family name of the icon font, used wherever the interface draws icon glyphs.
-    static QString iconFontFamily();
-
 private:
     void installTranslators();
     void loadFonts();
 
+    static constexpr int kUpdateCheckDelayMs = 1500;
+
+    AppState *m_appState = nullptr;
+    std::unique_ptr<MainWindow> m_mainWindow;
+    TrayManager *m_tray = nullptr;
+    NotificationService *m_notifications = nullptr;
     QPointer<SingleInstance> m_singleInstance;
     QByteArray m_pendingCommand;
     QTranslator *m_qtTranslator = nullptr;

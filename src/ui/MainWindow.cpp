@@ -5,6 +5,7 @@
 #include "app/NotificationService.h"
 #include "app/UndoStack.h"
 #include "ical/NLParser.h"
+#include "storage/CalendarChoice.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
 #include "storage/EventRepository.h"
@@ -431,7 +432,8 @@ void MainWindow::showToday()
 
 QString MainWindow::targetCalendarId() const
 {
-    return defaultCalendarId(*m_appState->calendars(), *m_appState->preferences());
+    const CalendarChoice::Choice choice = CalendarChoice::forNewEvents(*m_appState->database());
+    return choice.calendar ? choice.calendar->id : QString();
 }
 
 std::optional<Event> MainWindow::quickAdd(const QString &text)
