@@ -53,6 +53,8 @@ private slots:
     void gridFor();
     void coveredDays_data();
     void coveredDays();
+    void shiftAllDay_data();
+    void shiftAllDay();
     void chipsOverflowIntoMore();
     void barAcrossWeekBoundary();
     void cellOrder();
@@ -171,8 +173,7 @@ void TestMonthView::settle()
     // Writes announce themselves with a delay; the cache answers the last announcement.
     QSignalSpy invalidated(m_cache.get(), &SpanCache::invalidated);
     QVERIFY(invalidated.wait(2000));
-    while (invalidated.wait(250)) {
-    }
+    while (invalidated.wait(250)) { }
     m_changed = false;
 }
 
@@ -256,6 +257,17 @@ void TestMonthView::coveredDays_data()
     allDays.end_time = QDateTime(day.addDays(4), QTime(0, 0), QTimeZone::utc());
     QTest::newRow("four all days") << allDays << day << day.addDays(3) << true;
 
+    // The same days seen through the event's zone, where midnight UTC is 01:00.
+    Event inZone = allDays;
+    inZone.start_time = allDays.start_time.toTimeZone(kBerlin);
+    inZone.end_time = allDays.end_time->toTimeZone(kBerlin);
+    QTest::newRow("all days shown in their zone") << inZone << day << day.addDays(3) << true;
+
+    Event localMidnights = allDay;
+    localMidnights.start_time = local(day, 0);
+    localMidnights.end_time = local(day.addDays(2), 0);
+    QTest::newRow("all days at local midnights") << localMidnights << day << day.addDays(1) << true;
+
     Event allDayNoEnd = allDay;
     allDayNoEnd.end_time.reset();
     QTest::newRow("all day without end") << allDayNoEnd << day << day << true;
@@ -272,6 +284,32 @@ void TestMonthView::coveredDays()
     QCOMPARE(from, first);
     QCOMPARE(to, last);
     QCOMPARE(MonthLayout::isBar(event), bar);
+}
+
+void TestMonthView::shiftAllDay_data()
+{
+    QTest::addColumn<QDateTime>("time");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<QDateTime>("expected");
+
+    const QDateTime utcMidnight(QDate(2024, 3, 28), QTime(0, 0), QTimeZone::utc());
+    // Summer time starts in Berlin on 31 March; midnights stay midnights.
+    QTest::newRow("UTC midnight") << utcMidnight << 5 << QDateTime(QDate(2024, 4, 2), QTime(0, 0), QTimeZone::utc());
+    QTest::newRow("UTC midnight seen in Berlin")
+        << utcMidnight.toTimeZone(kBerlin) << 5 << QDateTime(QDate(2024, 4, 2), QTime(0, 0), QTimeZone::utc());
+    QTest::newRow("Berlin midnight") << local(QDate(2024, 3, 28), 0) << 5 << local(QDate(2024, 4, 2), 0);
+    QTest::newRow("backwards") << local(QDate(2024, 4, 2), 0) << -5 << local(QDate(2024, 3, 28), 0);
+}
+
+void TestMonthView::shiftAllDay()
+{
+    QFETCH(QDateTime, time);
+    QFETCH(int, days);
+    QFETCH(QDateTime, expected);
+
+    const QDateTime shifted = MonthLayout::shiftAllDay(time, days);
+    QCOMPARE(shifted, expected);
+    QCOMPARE(shifted.timeZone(), time.timeZone());
 }
 
 void TestMonthView::chipsOverflowIntoMore()
@@ -462,6 +500,25 @@ void TestMonthView::dragMovesAnAllDayEvent()
     QVERIFY(moved->is_all_day);
     QCOMPARE(moved->start_time, QDateTime(QDate(2024, 3, 19), QTime(0, 0), QTimeZone::utc()));
     QCOMPARE(*moved->end_time, QDateTime(QDate(2024, 3, 21), QTime(0, 0), QTimeZone::utc()));
+
+    // An all-day event of a zone with summer time, dropped across the change: still whole days.
+    Event draft;
+    draft.calendar_id = AppState::kLocalCalendarId;
+    draft.title = QStringLiteral("Visit");
+    draft.is_all_day = true;
+    draft.timezone = QStringLiteral("Europe/Berlin");
+    draft.start_time = QDateTime(QDate(2024, 3, 27), QTime(0, 0), QTimeZone::utc());
+    draft.end_time = QDateTime(QDate(2024, 3, 28), QTime(0, 0), QTimeZone::utc());
+    const Event visit = m_editor->create(draft).value_or(Event());
+    settle();
+    const QDate target(2024, 4, 3);
+    drag(m_view->eventRect(visit.id, QDate(2024, 3, 27)).center(), m_view->dayRect(target).center());
+    settle();
+    const std::optional<Event> visited = m_state->events()->getById(visit.id);
+    QCOMPARE(visited->start_time, QDateTime(target, QTime(0, 0), QTimeZone::utc()));
+    QCOMPARE(*visited->end_time, QDateTime(target.addDays(1), QTime(0, 0), QTimeZone::utc()));
+    QVERIFY(m_view->eventRect(visit.id, target).isValid());
+    QVERIFY(!m_view->eventRect(visit.id, target.addDays(1)).isValid());
 }
 
 void TestMonthView::readOnlyEventsStayPut()

@@ -112,6 +112,8 @@ void TestSidebar::weekNumbers_data()
     QTest::newRow("December 2024") << QDate(2024, 12, 1) << 1 << QList<int>{48, 49, 50, 51, 52, 1};
     // A row from Sunday 29 December 2024: most of it is in week 1.
     QTest::newRow("December 2024, Sunday first") << QDate(2024, 12, 1) << 7 << QList<int>{49, 50, 51, 52, 1, 2};
+    // A row from Wednesday 30 December 2020 has five days of week 53 and two of week 1.
+    QTest::newRow("January 2021, Wednesday first") << QDate(2021, 1, 1) << 3 << QList<int>{53, 1, 2, 3, 4, 5};
     QTest::newRow("January 2016, Saturday first") << QDate(2016, 1, 1) << 6 << QList<int>{53, 1, 2, 3, 4, 5};
 }
 

@@ -160,7 +160,7 @@ QRect MiniMonth::gridRect() const
 {
     const int title = QFontMetrics(scaled(font(), 1.0, QFont::DemiBold)).height() + 16;
     const int initials = QFontMetrics(scaled(font(), 0.8)).height() + 8;
-    const int row = QFontMetrics(font()).height() + 9;
+    const int row = QFontMetrics(font()).height() + 11;
     const int weekColumn
         = showsWeekNumbers() ? QFontMetrics(scaled(font(), 0.75)).horizontalAdvance(QStringLiteral("00")) + 10 : 0;
     return QRect(kMargin + weekColumn, kTop + title + initials, qMax(0, width() - 2 * kMargin - weekColumn),
@@ -266,7 +266,7 @@ void MiniMonth::paintEvent(QPaintEvent *)
         const int day = (int(m_appState->firstDayOfWeek()) - 1 + column) % kDaysPerWeek + 1;
         const QRect cell = dayRect(m_first.addDays(column));
         p.drawText(QRect(cell.left(), initialsTop, cell.width(), grid.top() - initialsTop), Qt::AlignCenter,
-                   locale.dayName(day, QLocale::NarrowFormat));
+                   locale.dayName(day, QLocale::ShortFormat).left(2));
     }
 
     const QList<int> weeks = weekNumbers();
@@ -332,7 +332,7 @@ void MiniMonth::paintEvent(QPaintEvent *)
             const qreal dot = qMax(3.0, diameter / 7.0);
             p.setPen(Qt::NoPen);
             p.setBrush(isToday ? c.accentText : c.textMuted);
-            p.drawEllipse(QRectF(round.center().x() - dot / 2, round.bottom() - dot - 1.5, dot, dot));
+            p.drawEllipse(QRectF(round.center().x() - dot / 2, round.bottom() - dot - 0.5, dot, dot));
         }
     }
     if (hasFocus() && viewDate.isValid() && dayRect(viewDate).isValid()) {

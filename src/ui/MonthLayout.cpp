@@ -4,6 +4,7 @@
 #include "ui/EventLayout.h"
 
 #include <QLocale>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -24,16 +25,39 @@ int weekNumberOfRow(const QDate &rowFirst)
     return rowFirst.addDays(toThursday).weekNumber();
 }
 
+namespace {
+
+// The date an all-day boundary names. Such times are midnights of their dates, normally in UTC
+// (as the iCalendar reader gives them) but possibly shown in the event's zone or stored at local
+// midnight; whichever reading is a midnight names the date. `exact` is false when none is.
+QDate allDayDate(const QDateTime &time, bool *exact)
+{
+    const QTime midnight(0, 0);
+    *exact = true;
+    const QDateTime utc = time.toUTC();
+    if (utc.time() == midnight)
+        return utc.date();
+    if (time.time() == midnight)
+        return time.date();
+    const QDateTime local = time.toLocalTime();
+    if (local.time() == midnight)
+        return local.date();
+    *exact = false;
+    return utc.date();
+}
+
+} // namespace
+
 std::pair<QDate, QDate> coveredDays(const Event &occurrence)
 {
     if (occurrence.is_all_day) {
-        // All-day times are midnights of their dates in whatever zone they were stored; the date
-        // is read as stored, since a zone conversion would shift it by a day west of UTC.
-        const QDate first = occurrence.start_time.date();
+        bool exact = true;
+        const QDate first = allDayDate(occurrence.start_time, &exact);
         QDate last = first;
-        if (occurrence.end_time && occurrence.end_time->date() > first) {
-            const QDateTime &end = *occurrence.end_time;
-            last = end.time() == QTime(0, 0) ? end.date().addDays(-1) : end.date();
+        if (occurrence.end_time) {
+            const QDate end = allDayDate(*occurrence.end_time, &exact);
+            // The end is exclusive when it is a midnight.
+            last = exact ? end.addDays(-1) : end;
         }
         return {first, std::max(first, last)};
     }
@@ -43,6 +67,17 @@ std::pair<QDate, QDate> coveredDays(const Event &occurrence)
     // The end is exclusive: an event ending at midnight does not touch the next day.
     const QDate last = occurrence.end_time->toLocalTime().addMSecs(-1).date();
     return {first, std::max(first, last)};
+}
+
+QDateTime shiftAllDay(const QDateTime &time, int days)
+{
+    const QTime midnight(0, 0);
+    const QDateTime utc = time.toUTC();
+    if (utc.time() == midnight)
+        return utc.addDays(days).toTimeZone(time.timeZone());
+    if (time.time() == midnight)
+        return time.addDays(days);
+    return time.toLocalTime().addDays(days).toTimeZone(time.timeZone());
 }
 
 bool isBar(const Event &occurrence)
@@ -63,6 +98,7 @@ struct Span
     QDate first;
     QDate last;
     bool bar;
+    qint64 start; // ms since the epoch, for sorting without zone arithmetic
 };
 
 } // namespace
@@ -82,11 +118,11 @@ QList<WeekLayout> layoutWeeks(const QList<Event> &occurrences, const QDate &firs
         if (last < firstDay || first > gridLast)
             continue;
         const bool bar = isBar(occurrences[i]);
-        (bar ? bars : chips).append(Span{i, first, last, bar});
+        (bar ? bars : chips).append(Span{i, first, last, bar, occurrences[i].start_time.toMSecsSinceEpoch()});
     }
     // Multi-day bars above single-day ones, each group by start; chips by start.
-    const auto byStart = [&occurrences](const Span &a, const Span &b) {
-        return occurrences[a.index].start_time < occurrences[b.index].start_time;
+    const auto byStart = [](const Span &a, const Span &b) {
+        return a.start < b.start;
     };
     std::stable_sort(bars.begin(), bars.end(), [&](const Span &a, const Span &b) {
         const bool aLong = a.first != a.last;

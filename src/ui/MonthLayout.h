@@ -29,10 +29,15 @@ std::pair<QDate, int> gridFor(const QDate &date, Qt::DayOfWeek firstDayOfWeek);
 int weekNumberOfRow(const QDate &rowFirst);
 
 // The local dates an occurrence covers, both inclusive. All-day events run from the date of their
-// start to the day before their (exclusive) end date; timed events from the local date of their
-// start to the local date of the last instant before their end. An event without an end, or with
-// an end not after its start, covers its start date only.
+// start to the day before their (exclusive) end date, the dates being those their midnights name
+// (in UTC, their own zone or local time, whichever is a midnight); timed events from the local date
+// of their start to the local date of the last instant before their end. An event without an end,
+// or with an end not after its start, covers its start date only.
 std::pair<QDate, QDate> coveredDays(const Event &occurrence);
+
+// An all-day boundary moved by whole days: it stays the midnight it was (in UTC, its own zone or
+// local time), also across a daylight-saving change; the result is in the zone of `time`.
+QDateTime shiftAllDay(const QDateTime &time, int days);
 
 // Whether an occurrence is drawn as a bar (all-day, or timed and lasting at least a whole day
 // across several dates) rather than as a chip on the day it starts.

@@ -17,7 +17,7 @@ constexpr int kNumberInset = 4; // day number from the cell's top-left corner
 constexpr int kChipInset = 4; // chips from the cell's sides
 constexpr qreal kRadius = 4.0;
 constexpr qreal kDimmedOpacity = 0.4;
-constexpr qreal kPastOpacity = 0.6;
+constexpr qreal kPastOpacity = 0.7;
 
 QFont scaled(const QFont &base, qreal factor, QFont::Weight weight = QFont::Normal)
 {
@@ -226,6 +226,21 @@ void paintSegments(QPainter &p, const Scene &s)
             p.drawRoundedRect(QRectF(segment.rect).adjusted(-1, -1, 1, 1), kRadius + 1, kRadius + 1);
         }
     }
+    // The dragged piece follows the pointer, lifted by a shadow.
+    if (s.dragged >= 0) {
+        Segment ghost = s.segments->at(s.dragged);
+        ghost.rect.translate(s.dragOffset);
+        const Event &event = s.contents->occurrences[ghost.index];
+        p.setPen(Qt::NoPen);
+        p.setBrush(c.shadow);
+        p.drawRoundedRect(QRectF(ghost.rect).translated(0, 2).adjusted(-1, 0, 1, 1), kRadius + 1, kRadius + 1);
+        p.setBrush(c.surface);
+        p.drawRoundedRect(QRectF(ghost.rect), kRadius, kRadius);
+        if (ghost.bar)
+            paintBar(p, s, ghost, event, s.cache->colorOf(event), false);
+        else
+            paintChip(p, s, ghost, event, s.cache->colorOf(event), false);
+    }
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
@@ -270,7 +285,9 @@ QRect Geometry::cellRect(int row, int column) const
 
 QRect Geometry::numberRect(const QRect &cell, const QString &text) const
 {
-    const int width = qMax(numberHeight, QFontMetrics(numberFont).horizontalAdvance(text) + numberHeight / 2 + 2);
+    // A circle for one or two digits, a pill for "Mar 1".
+    const int padding = text.size() <= 2 ? 6 : numberHeight / 2;
+    const int width = qMax(numberHeight, QFontMetrics(numberFont).horizontalAdvance(text) + padding);
     return QRect(cell.left() + kNumberInset, cell.top() + kNumberInset, width, numberHeight);
 }
 

@@ -90,6 +90,7 @@ struct Scene
     QDate dropFirst;
     QDate dropLast;
     int dragged = -1;
+    QPoint dragOffset; // how far the pointer has moved the dragged segment
 };
 
 void paint(QPainter &painter, const QRect &bounds, const Scene &scene);

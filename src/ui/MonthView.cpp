@@ -83,6 +83,7 @@ public:
     QDate pressDay;
     bool dragging = false;
     QDate dropDay;
+    QPoint dragPos;
     // A press on a day number or "+N more", completed on release over the same day.
     Target pressTarget = Target::None;
     QDate pressTargetDay;
@@ -270,7 +271,7 @@ void MonthView::Private::moveOccurrence(const Event &occurrence, int deltaDays)
         return;
     QDateTime newStart;
     if (occurrence.is_all_day) {
-        newStart = occurrence.start_time.addDays(deltaDays);
+        newStart = MonthLayout::shiftAllDay(occurrence.start_time, deltaDays);
     } else {
         // The wall-clock time stays, also across a daylight-saving change.
         newStart = occurrence.start_time.toLocalTime().addDays(deltaDays).toTimeZone(occurrence.start_time.timeZone());
@@ -490,6 +491,7 @@ void MonthView::paintEvent(QPaintEvent *)
         scene.dropFirst = from.addDays(delta);
         scene.dropLast = to.addDays(delta);
         scene.dragged = d->pressed;
+        scene.dragOffset = d->dragPos - d->pressPos;
     }
     MonthPainter::paint(painter, rect(), scene);
 }
@@ -548,11 +550,11 @@ void MonthView::mouseMoveEvent(QMouseEvent *event)
             setCursor(Qt::ClosedHandCursor);
         }
         if (d->dragging) {
+            d->dragPos = pos;
             const QDate day = d->dayAt(pos);
-            if (day.isValid() && day != d->dropDay) {
+            if (day.isValid())
                 d->dropDay = day;
-                update();
-            }
+            update();
         }
         return;
     }

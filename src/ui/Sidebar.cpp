@@ -10,6 +10,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -58,11 +59,27 @@ private:
 class Sidebar::Private
 {
 public:
+    void applyTheme();
+
     AppState *state = nullptr;
+    QScrollArea *scroll = nullptr;
     MiniMonth *miniMonth = nullptr;
     ViewList *views = nullptr;
     CalendarList *calendars = nullptr;
 };
+
+void Sidebar::Private::applyTheme()
+{
+    // A slim scroll bar that appears only as a handle, in the theme's line colour.
+    const ThemeManager::Colors &c = state->theme()->colors();
+    scroll->verticalScrollBar()->setStyleSheet(
+        QStringLiteral("QScrollBar:vertical { background: transparent; width: 10px; margin: 2px 2px 2px 2px; }"
+                       "QScrollBar::handle:vertical { background: %1; border-radius: 3px; min-height: 28px; }"
+                       "QScrollBar::handle:vertical:hover { background: %2; }"
+                       "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+                       "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }")
+            .arg(c.border.name(), c.textMuted.name()));
+}
 
 Sidebar::Sidebar(AppState *appState, SpanCache *cache, QWidget *parent)
     : QWidget(parent)
@@ -73,6 +90,7 @@ Sidebar::Sidebar(AppState *appState, SpanCache *cache, QWidget *parent)
     setMinimumWidth(200);
 
     auto *scroll = new QScrollArea(this);
+    d->scroll = scroll;
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -101,7 +119,11 @@ Sidebar::Sidebar(AppState *appState, SpanCache *cache, QWidget *parent)
     layout->setContentsMargins(0, 0, 1, 0); // the right border line
     layout->addWidget(scroll);
 
-    connect(appState->theme(), &ThemeManager::themeChanged, this, [this] { update(); });
+    d->applyTheme();
+    connect(appState->theme(), &ThemeManager::themeChanged, this, [this] {
+        d->applyTheme();
+        update();
+    });
 }
 
 Sidebar::~Sidebar() = default;
