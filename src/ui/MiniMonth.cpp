@@ -74,8 +74,11 @@ MiniMonth::MiniMonth(AppState *appState, SpanCache *cache, QWidget *parent)
         showMonth(month);
     });
     connect(appState->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
-        if (key == QLatin1String("ui/showWeekNumbers"))
+        if (key == QLatin1String("ui/showWeekNumbers")) {
+            m_weekNumbers = m_appState->preferences()->boolValue(key, false);
+            updateGeometry();
             update();
+        }
     });
     connect(appState->theme(), &ThemeManager::themeChanged, this, &MiniMonth::applyTheme);
     connect(cache, &SpanCache::invalidated, this, [this] {
@@ -85,6 +88,7 @@ MiniMonth::MiniMonth(AppState *appState, SpanCache *cache, QWidget *parent)
             update();
         }
     });
+    m_weekNumbers = appState->preferences()->boolValue(QStringLiteral("ui/showWeekNumbers"), false);
     applyTheme();
     const QDate date = appState->viewDate();
     showMonth(date.isValid() ? date : Clock::nowLocal().date());
@@ -147,13 +151,9 @@ std::pair<QDate, QDate> MiniMonth::visibleRange(const QString &mode, const QDate
 
 std::pair<QDate, QDate> MiniMonth::highlightedRange() const
 {
-    return visibleRange(m_appState->viewMode(), m_appState->viewDate(), m_appState->weekHorizon(),
-                        m_appState->firstDayOfWeek());
-}
-
-bool MiniMonth::showsWeekNumbers() const
-{
-    return m_appState->preferences()->boolValue(QStringLiteral("ui/showWeekNumbers"), false);
+    // The grid starts on the first day of the week; asking the state would read the database.
+    const Qt::DayOfWeek firstDayOfWeek = m_first.isValid() ? Qt::DayOfWeek(m_first.dayOfWeek()) : Qt::Monday;
+    return visibleRange(m_appState->viewMode(), m_appState->viewDate(), m_appState->weekHorizon(), firstDayOfWeek);
 }
 
 QRect MiniMonth::gridRect() const
@@ -162,7 +162,7 @@ QRect MiniMonth::gridRect() const
     const int initials = QFontMetrics(scaled(font(), 0.8)).height() + 8;
     const int row = QFontMetrics(font()).height() + 11;
     const int weekColumn
-        = showsWeekNumbers() ? QFontMetrics(scaled(font(), 0.75)).horizontalAdvance(QStringLiteral("00")) + 10 : 0;
+        = m_weekNumbers ? QFontMetrics(scaled(font(), 0.75)).horizontalAdvance(QStringLiteral("00")) + 10 : 0;
     return QRect(kMargin + weekColumn, kTop + title + initials, qMax(0, width() - 2 * kMargin - weekColumn),
                  kWeeksPerGrid * row);
 }
@@ -202,7 +202,7 @@ bool MiniMonth::hasEvents(const QDate &date) const
 QList<int> MiniMonth::weekNumbers() const
 {
     QList<int> numbers;
-    if (!showsWeekNumbers())
+    if (!m_weekNumbers)
         return numbers;
     for (int row = 0; row < kWeeksPerGrid; ++row)
         numbers.append(MonthLayout::weekNumberOfRow(m_first.addDays(qint64(row) * kDaysPerWeek)));
@@ -263,7 +263,7 @@ void MiniMonth::paintEvent(QPaintEvent *)
     p.setPen(c.textMuted);
     const int initialsTop = kTop + titleHeight;
     for (int column = 0; column < kDaysPerWeek; ++column) {
-        const int day = (int(m_appState->firstDayOfWeek()) - 1 + column) % kDaysPerWeek + 1;
+        const int day = (m_first.dayOfWeek() - 1 + column) % kDaysPerWeek + 1;
         const QRect cell = dayRect(m_first.addDays(column));
         p.drawText(QRect(cell.left(), initialsTop, cell.width(), grid.top() - initialsTop), Qt::AlignCenter,
                    locale.dayName(day, QLocale::ShortFormat).left(2));

@@ -62,7 +62,6 @@ private:
     // Reads the days with events from the span cache (never while painting).
     void loadDots() const;
     void applyTheme();
-    bool showsWeekNumbers() const;
     QRect gridRect() const;
     QDate dayAt(const QPoint &pos) const;
 
@@ -74,6 +73,7 @@ private:
     QDate m_first;
     mutable std::array<bool, 42> m_dots{};
     mutable bool m_dotsStale = true;
+    bool m_weekNumbers = false; // "ui/showWeekNumbers", kept so that painting reads no database
     QDate m_pressed;
     QDate m_hover;
     int m_wheelDelta = 0;

@@ -42,8 +42,8 @@ public:
     void reload();
     void regrid();
     void relayout();
-    bool twentyFourHour() const;
-    bool showWeekNumbers() const;
+    // Reads the preferences the view draws with; painting never reads the database.
+    void readPreferences();
 
     int cellIndex(const QDate &date) const;
     QDate dayAt(const QPoint &pos) const;
@@ -73,6 +73,8 @@ public:
     QList<MonthPainter::Segment> segments;
     std::array<MonthPainter::Cell, kGridDays> cells;
 
+    bool twentyFourHour = false;
+    bool weekNumbers = false;
     QDate today;
     QDate focusDay;
     int hover = -1;
@@ -119,19 +121,16 @@ void MonthView::Private::regrid()
     q->setMonth(keep);
 }
 
-bool MonthView::Private::twentyFourHour() const
+void MonthView::Private::readPreferences()
 {
-    return state->preferences()->value(QStringLiteral("ui/timeFormat")).value_or(QString()) == QLatin1String("24");
-}
-
-bool MonthView::Private::showWeekNumbers() const
-{
-    return state->preferences()->boolValue(QStringLiteral("ui/showWeekNumbers"), false);
+    PreferencesRepository *preferences = state->preferences();
+    twentyFourHour = preferences->value(QStringLiteral("ui/timeFormat")).value_or(QString()) == QLatin1String("24");
+    weekNumbers = preferences->boolValue(QStringLiteral("ui/showWeekNumbers"), false);
 }
 
 void MonthView::Private::relayout()
 {
-    geometry = MonthPainter::measure(q->font(), q->size(), showWeekNumbers());
+    geometry = MonthPainter::measure(q->font(), q->size(), weekNumbers);
     segments.clear();
     for (MonthPainter::Cell &cell : cells)
         cell = MonthPainter::Cell();
@@ -306,6 +305,7 @@ MonthView::MonthView(AppState *appState, SpanCache *cache, EventEditor *editor, 
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(420, 320);
     d->today = Clock::nowLocal().date();
+    d->readPreferences();
 
     connect(cache, &SpanCache::invalidated, this, [this] {
         if (isVisible())
@@ -317,10 +317,9 @@ MonthView::MonthView(AppState *appState, SpanCache *cache, EventEditor *editor, 
     connect(appState, &AppState::selectedEventChanged, this, qOverload<>(&QWidget::update));
     connect(appState->theme(), &ThemeManager::themeChanged, this, qOverload<>(&QWidget::update));
     connect(appState->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
-        if (key == QLatin1String("ui/showWeekNumbers")) {
+        if (key == QLatin1String("ui/showWeekNumbers") || key == QLatin1String("ui/timeFormat")) {
+            d->readPreferences();
             d->relayout();
-            update();
-        } else if (key == QLatin1String("ui/timeFormat")) {
             update();
         }
     });
@@ -454,7 +453,7 @@ bool MonthView::event(QEvent *event)
         auto *help = static_cast<QHelpEvent *>(event);
         const int segment = d->segmentAt(help->pos());
         if (segment >= 0)
-            QToolTip::showText(help->globalPos(), MonthPainter::toolTip(d->occurrenceOf(segment), d->twentyFourHour()),
+            QToolTip::showText(help->globalPos(), MonthPainter::toolTip(d->occurrenceOf(segment), d->twentyFourHour),
                                this, d->segments[segment].rect);
         else
             QToolTip::hideText();
@@ -473,7 +472,7 @@ void MonthView::paintEvent(QPaintEvent *)
     scene.firstDay = d->first;
     scene.month = d->month;
     scene.today = d->today;
-    scene.firstDayOfWeek = d->state->firstDayOfWeek();
+    scene.firstDayOfWeek = d->first.isValid() ? Qt::DayOfWeek(d->first.dayOfWeek()) : Qt::Monday;
     scene.cells = d->cells.data();
     scene.cellCount = d->days;
     scene.segments = &d->segments;
@@ -481,7 +480,7 @@ void MonthView::paintEvent(QPaintEvent *)
     scene.cache = d->cache;
     scene.selectedId = d->state->selectedEventId();
     scene.hover = d->dragging ? -1 : d->hover;
-    scene.twentyFourHour = d->twentyFourHour();
+    scene.twentyFourHour = d->twentyFourHour;
     scene.now = Clock::nowLocal();
     scene.focusDay = hasFocus() ? d->focusDay : QDate();
     if (d->dragging && d->dropDay.isValid()) {
