@@ -34,6 +34,7 @@ inline constexpr char16_t Group = 0xe7ef;
 inline constexpr char16_t LightMode = 0xe518;
 inline constexpr char16_t Link = 0xe157;
 inline constexpr char16_t LocationOn = 0xe0c8;
+inline constexpr char16_t Lock = 0xe897;
 inline constexpr char16_t Menu = 0xe5d2;
 inline constexpr char16_t MoreHoriz = 0xe5d3;
 inline constexpr char16_t Notes = 0xe26c;

@@ -6,7 +6,10 @@
 #include <memory>
 
 class AppState;
+class CalendarList;
+class MiniMonth;
 class SpanCache;
+class ViewList;
 
 // The left column: a mini month (week numbers when "ui/showWeekNumbers" is on; a click sets the
 // date on screen), the saved views (a click makes one active), and the calendars grouped by
@@ -18,6 +21,13 @@ class Sidebar : public QWidget
 public:
     Sidebar(AppState *appState, SpanCache *cache, QWidget *parent = nullptr);
     ~Sidebar() override;
+
+    MiniMonth *miniMonth() const;
+    ViewList *viewList() const;
+    CalendarList *calendarList() const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     class Private;
