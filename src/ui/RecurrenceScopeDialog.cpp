@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/RecurrenceScopeDialog.h"
 
+#include "ui/Typography.h"
+
 #include <QButtonGroup>
 #include <QCoreApplication>
 #include <QDialog>
@@ -32,9 +34,8 @@ bool ask(QWidget *parent, EventEditor::Scope *scope, const QString &verb)
     layout->setSpacing(6);
 
     auto *heading = new QLabel(verb, &dialog);
-    QFont headingFont = dialog.font();
+    QFont headingFont = Typography::semibold(dialog.font());
     headingFont.setPointSizeF(headingFont.pointSizeF() * 1.15);
-    headingFont.setWeight(QFont::DemiBold);
     heading->setFont(headingFont);
     layout->addWidget(heading);
 
@@ -65,6 +66,20 @@ bool ask(QWidget *parent, EventEditor::Scope *scope, const QString &verb)
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout->addWidget(buttons);
 
+    // Drawn from the palette so that the choices read as well on a dark theme as on a light one.
+    const QPalette pal = dialog.palette();
+    dialog.setStyleSheet(
+        QStringLiteral("QRadioButton { spacing: 8px; padding: 3px 0; }"
+                       "QRadioButton::indicator { width: 12px; height: 12px; border-radius: 8px;"
+                       "  border: 2px solid %1; background: %2; }"
+                       "QRadioButton::indicator:checked { border: 5px solid %3; width: 6px; height: 6px; }"
+                       "QRadioButton:focus { color: %3; }"
+                       "QPushButton { border: 1px solid %4; border-radius: 6px; padding: 5px 16px; background: %2;"
+                       "  color: %5; }"
+                       "QPushButton:default { background: %3; color: %6; border-color: %3; font-weight: 600; }")
+            .arg(pal.color(QPalette::PlaceholderText).name(), pal.color(QPalette::Base).name(),
+                 pal.color(QPalette::Highlight).name(), pal.color(QPalette::Mid).name(),
+                 pal.color(QPalette::ButtonText).name(), pal.color(QPalette::HighlightedText).name()));
     dialog.setMinimumWidth(dialog.fontMetrics().horizontalAdvance(QLatin1Char('x')) * 56);
     group->checkedButton()->setFocus();
     if (dialog.exec() != QDialog::Accepted)
