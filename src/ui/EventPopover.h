@@ -22,13 +22,30 @@ public:
     EventPopover(AppState *appState, SpanCache *cache, EventEditor *editor, QWidget *parent = nullptr);
     ~EventPopover() override;
 
-    // Shows the occurrence beside `anchor` (global coordinates).
+    // Shows the occurrence beside `anchor` (global coordinates): to its right, else to its left,
+    // else below or above it, always inside the anchor's screen.
     void showFor(const Event &occurrence, const QRect &anchor);
+    // Asks and deletes the shown occurrence: for a series the scope question (with Cancel) is the
+    // confirmation, otherwise "Delete event?". The popover closes first.
+    void deleteOccurrence();
+
+    Event occurrence() const;
+    QString timeText() const;
+    QString repeatText() const; // empty when the event does not repeat
+
+    // Where a card of `card` size goes beside `anchor` within `available` (all global).
+    static QRect placement(const QRect &anchor, const QSize &card, const QRect &available);
 
 signals:
     void editRequested(const Event &occurrence);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
 private:
+    void applyTheme();
+
     class Private;
     std::unique_ptr<Private> d;
 };

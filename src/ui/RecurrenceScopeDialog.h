@@ -7,13 +7,19 @@
 
 class QWidget;
 
-// The question asked before changing one occurrence of a repeating event: this event, this and
-// the following events, or all events. Implemented on the dialogs branch; declared here so that
-// the views can ask it.
+// The question asked before changing one occurrence of a repeating event: does the change reach
+// only this event, this and the following events, or every event of the series?
 namespace RecurrenceScopeDialog {
 
-// Asks modally; `verb` is the translated action ("Move repeating event"). True with `*scope` set
-// when the user confirmed; false (and `*scope` untouched) when cancelled.
+// Object names of the three choices and the confirm button, for keyboard-free automation.
+inline constexpr char kThisEventName[] = "scopeThisEvent";
+inline constexpr char kThisAndFollowingName[] = "scopeThisAndFollowing";
+inline constexpr char kAllEventsName[] = "scopeAllEvents";
+inline constexpr char kConfirmName[] = "scopeConfirm";
+
+// Asks modally; `verb` is the translated action, used as the title and the heading ("Move
+// repeating event", "Delete repeating event"). "Only this event" is preselected. True with
+// `*scope` set when the user confirmed; false (and `*scope` untouched) when cancelled.
 bool ask(QWidget *parent, EventEditor::Scope *scope, const QString &verb);
 
 } // namespace RecurrenceScopeDialog
