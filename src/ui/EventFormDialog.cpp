@@ -10,7 +10,9 @@
 #include "storage/TemplateRepository.h"
 #include "ui/ColorSwatchPicker.h"
 #include "ui/EventEditor.h"
+#include "ui/EventTimeEditor.h"
 #include "ui/EventWording.h"
+#include "ui/HintLabel.h"
 #include "ui/IconFont.h"
 #include "ui/RecurrenceScopeDialog.h"
 #include "ui/ReminderListEditor.h"
@@ -18,12 +20,8 @@
 #include "ui/ThemeManager.h"
 #include "ui/Typography.h"
 
-#include <QAbstractItemView>
-#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCompleter>
-#include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -34,8 +32,6 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
-#include <QTimeEdit>
 #include <QTimeZone>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -44,15 +40,6 @@
 #include <functional>
 
 namespace {
-
-constexpr char16_t kGlyphPublic = 0xe80b; // a globe, beside the time zone
-
-QTimeZone zoneNamed(const QString &id)
-{
-    if (id == QLatin1String("UTC"))
-        return QTimeZone::utc();
-    return QTimeZone(id.toUtf8());
-}
 
 QString systemZoneId()
 {
@@ -116,17 +103,7 @@ public:
     void fillCalendars(const QString &currentId, bool includeCurrentEvenIfReadOnly);
     void showCalendarColor();
     void fillRepeatLabels();
-    void setTimeFormat();
-
-    void showTimes(const QDateTime &start, const std::optional<QDateTime> &end, bool allDayEvent);
-    QTimeZone formZone() const;
-    QDateTime timedStart() const;
-    QDateTime timedEnd() const;
-    void onStartChanged();
-    void onEndChanged();
-    void onAllDayToggled(bool on);
-    void updateModeVisibility();
-    void updateLocalHint();
+    QDateTime repeatAnchor() const;
 
     QString currentRule() const;
     void onRepeatChanged();
@@ -138,7 +115,6 @@ public:
         QLabel *where = nullptr; // the hint under the field concerned, or the form's error line
     };
     Problem validationProblem() const;
-    static void showHint(QLabel *hint, const QString &text, bool isError);
     void revalidate();
     Event editedEvent() const;
     void trySave();
@@ -150,28 +126,17 @@ public:
 
     bool isNew = true;
     bool readOnly = false;
-    bool updating = false;
+    bool updating = false; // filling the form: no focus moves, no validation
     Event original;
     QString initialRule; // the rule shown when the form opened (an override shows its series' rule)
     RepeatPresets::Preset initialPreset = RepeatPresets::Preset::None;
     std::optional<Event> saved;
-    qint64 timedSpanSecs = 3600;
-    int allDaySpanDays = 0;
-    bool ruleChangeNeedsWiderScope = false;
 
     QLabel *banner = nullptr;
     QLineEdit *title = nullptr;
     QToolButton *templates = nullptr;
     QComboBox *calendar = nullptr;
-    QDateEdit *startDate = nullptr;
-    QTimeEdit *startTime = nullptr;
-    QLabel *dash = nullptr;
-    QTimeEdit *endTime = nullptr;
-    QDateEdit *endDate = nullptr;
-    QCheckBox *allDay = nullptr;
-    QLabel *zoneIcon = nullptr;
-    QComboBox *zone = nullptr;
-    QLabel *timeHint = nullptr;
+    EventTimeEditor *times = nullptr;
     QComboBox *repeat = nullptr;
     QLineEdit *customRule = nullptr;
     QWidget *repeatStretch = nullptr;
@@ -237,85 +202,15 @@ void EventFormDialog::Private::build()
     grid->setColumnStretch(1, 1);
     int row = 0;
 
-    // When: start date and time – end time and date; all-day and the zone beneath.
-    auto *when = new QHBoxLayout;
-    when->setSpacing(6);
-    startDate = new QDateEdit(q);
-    startDate->setObjectName(QStringLiteral("startDate"));
-    startTime = new QTimeEdit(q);
-    startTime->setObjectName(QStringLiteral("startTime"));
-    dash = new QLabel(QStringLiteral("–"), q);
-    endTime = new QTimeEdit(q);
-    endTime->setObjectName(QStringLiteral("endTime"));
-    endDate = new QDateEdit(q);
-    endDate->setObjectName(QStringLiteral("endDate"));
-    // Wide enough for the longest date and time in the user's language, with room for the arrow.
-    const QString dateFormat = tr("ddd, MMM d, yyyy");
-    int dateWidth = 0;
-    for (int month = 1; month <= 12; ++month) {
-        const QString text = QLocale().toString(QDate(2024, month, 28), dateFormat);
-        dateWidth = qMax(dateWidth, q->fontMetrics().horizontalAdvance(text));
-    }
-    for (QDateEdit *edit : {startDate, endDate}) {
-        edit->setCalendarPopup(true);
-        edit->setDisplayFormat(dateFormat);
-        edit->calendarWidget()->setFirstDayOfWeek(appState->firstDayOfWeek());
-        edit->setMinimumDate(QDate(1900, 1, 1));
-        edit->setMinimumWidth(dateWidth + 34);
-    }
-    const int timeWidth = q->fontMetrics().horizontalAdvance(QStringLiteral("12:00 PM")) + 18;
-    for (QTimeEdit *edit : {startTime, endTime}) {
-        edit->setButtonSymbols(QAbstractSpinBox::NoButtons);
-        edit->setAlignment(Qt::AlignCenter);
-        edit->setMinimumWidth(timeWidth);
-    }
-    when->addWidget(startDate);
-    when->addWidget(startTime);
-    when->addWidget(dash);
-    when->addWidget(endTime);
-    when->addWidget(endDate);
-    when->addStretch(1);
-    grid->addWidget(fieldIcon(IconFont::Glyph::Schedule), row, 0);
-    grid->addLayout(when, row++, 1);
-
-    auto *options = new QHBoxLayout;
-    options->setSpacing(8);
-    allDay = new QCheckBox(tr("All day"), q);
-    allDay->setObjectName(QStringLiteral("allDay"));
-    options->addWidget(allDay);
-    options->addSpacing(12);
-    zoneIcon = new QLabel(IconFont::text(kGlyphPublic), q);
-    zoneIcon->setObjectName(QStringLiteral("fieldIcon"));
-    zoneIcon->setFont(IconFont::font(16));
-    icons.append(zoneIcon);
-    options->addWidget(zoneIcon);
-    zone = new QComboBox(q);
-    zone->setObjectName(QStringLiteral("timeZone"));
-    zone->setEditable(true);
-    zone->setInsertPolicy(QComboBox::NoInsert);
-    zone->setToolTip(tr("Time zone of the event: its times are shown and edited in it"));
-    QStringList zoneIds;
-    for (const QByteArray &id : QTimeZone::availableTimeZoneIds())
-        zoneIds.append(QString::fromUtf8(id));
-    if (!zoneIds.contains(QLatin1String("UTC")))
-        zoneIds.append(QStringLiteral("UTC"));
-    zoneIds.sort();
-    zone->addItems(zoneIds);
-    zone->setMinimumContentsLength(18);
-    zone->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto *completer = new QCompleter(zoneIds, zone);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setFilterMode(Qt::MatchContains);
-    zone->setCompleter(completer);
-    options->addWidget(zone);
-    options->addStretch(1);
-    grid->addLayout(options, row++, 1);
-
-    timeHint = new QLabel(q);
-    timeHint->setObjectName(QStringLiteral("timeHint"));
-    timeHint->setWordWrap(true);
-    timeHint->hide();
-    grid->addWidget(timeHint, row++, 1);
+    // When: the icon sits beside the first of the editor's rows.
+    times = new EventTimeEditor(q);
+    times->setObjectName(QStringLiteral("times"));
+    times->setFirstDayOfWeek(appState->firstDayOfWeek());
+    times->setTwentyFourHour(EventWording::prefers24Hour(appState->preferences()));
+    QLabel *timesIcon = fieldIcon(IconFont::Glyph::Schedule);
+    timesIcon->setFixedHeight(times->firstInFocusChain()->sizeHint().height());
+    grid->addWidget(timesIcon, row, 0, Qt::AlignTop);
+    grid->addWidget(times, row++, 1);
 
     // Repeat, with the rule text for a custom rule.
     repeat = new QComboBox(q);
@@ -401,39 +296,34 @@ void EventFormDialog::Private::build()
     QObject::connect(cancelButton, &QPushButton::clicked, q, &QDialog::reject);
 
     // Tab order follows the reading order.
-    const QList<QWidget *> order{
-        title,      startDate,   startTime,  endTime,
-        endDate,    allDay,      zone,       repeat,
-        customRule, calendar,    colors,     reminders->findChild<QPushButton *>(QStringLiteral("addReminder")),
-        location,   description, saveButton, cancelButton};
+    QWidget::setTabOrder(title, times->firstInFocusChain());
+    const QList<QWidget *> order{times->lastInFocusChain(),
+                                 repeat,
+                                 customRule,
+                                 calendar,
+                                 colors,
+                                 reminders->findChild<QPushButton *>(QStringLiteral("addReminder")),
+                                 location,
+                                 description,
+                                 saveButton,
+                                 cancelButton};
     for (qsizetype i = 1; i < order.size(); ++i)
         QWidget::setTabOrder(order.at(i - 1), order.at(i));
 
-    // Enter saves from the single-line fields (the dialog's default button does it for most of
-    // them; an editable combo box keeps Enter to itself), Ctrl+Enter from anywhere.
-    auto *keys = new KeyWatcher(q, [this](QObject *watched, QKeyEvent *event) {
-        if (!isEnter(event))
+    // Enter saves from the single-line fields: the dialog's default button does it for most of
+    // them, the time editor asks for it from its zone box; Ctrl+Enter saves from the description.
+    auto *keys = new KeyWatcher(q, [this](QObject *, QKeyEvent *event) {
+        if (!isEnter(event) || !(event->modifiers() & Qt::ControlModifier))
             return false;
-        if (watched == zone && zone->completer()->popup()->isVisible())
-            return false;
-        if (watched == description && !(event->modifiers() & Qt::ControlModifier))
-            return false;
-        if (watched == zone || watched == description) {
-            trySave();
-            return true;
-        }
-        return false;
+        trySave();
+        return true;
     });
-    zone->installEventFilter(keys);
     description->installEventFilter(keys);
-
-    QObject::connect(startDate, &QDateEdit::dateChanged, q, [this] { onStartChanged(); });
-    QObject::connect(startTime, &QTimeEdit::timeChanged, q, [this] { onStartChanged(); });
-    QObject::connect(endDate, &QDateEdit::dateChanged, q, [this] { onEndChanged(); });
-    QObject::connect(endTime, &QTimeEdit::timeChanged, q, [this] { onEndChanged(); });
-    QObject::connect(allDay, &QCheckBox::toggled, q, [this](bool on) { onAllDayToggled(on); });
-    QObject::connect(zone, &QComboBox::currentTextChanged, q, [this] {
-        updateLocalHint();
+    QObject::connect(times, &EventTimeEditor::submitRequested, q, [this] { trySave(); });
+    QObject::connect(times, &EventTimeEditor::timesChanged, q, [this] {
+        if (updating)
+            return;
+        fillRepeatLabels();
         revalidate();
     });
     QObject::connect(repeat, &QComboBox::currentIndexChanged, q, [this] { onRepeatChanged(); });
@@ -443,10 +333,9 @@ void EventFormDialog::Private::build()
     });
     QObject::connect(calendar, &QComboBox::currentIndexChanged, q, [this] { showCalendarColor(); });
     QObject::connect(editor, &EventEditor::failed, q,
-                     [this](const QString &message) { showHint(error, message, true); });
+                     [this](const QString &message) { HintLabel::show(error, message, true); });
     QObject::connect(appState->theme(), &ThemeManager::themeChanged, q, [this] { applyTheme(); });
 
-    setTimeFormat();
     applyTheme();
 }
 
@@ -481,15 +370,14 @@ void EventFormDialog::Private::applyTheme()
               .arg(c.surface.name(), c.border.name(), c.text.name(), c.accent.name(), c.textMuted.name(),
                    c.nowLine.name(), c.surfaceAlt.name(), c.accentText.name());
     q->setStyleSheet(sheet);
+    // The plain style outlines check boxes in a shade of the window colour, which vanishes on a
+    // dark window; a mid-grey window colour for the box alone gives it a visible edge.
+    for (QCheckBox *box : q->findChildren<QCheckBox *>()) {
+        QPalette boxPalette = q->palette();
+        boxPalette.setColor(QPalette::Window, c.textMuted);
+        box->setPalette(boxPalette);
+    }
     showCalendarColor();
-}
-
-void EventFormDialog::Private::setTimeFormat()
-{
-    const QString format
-        = EventWording::prefers24Hour(appState->preferences()) ? QStringLiteral("HH:mm") : QStringLiteral("h:mm AP");
-    startTime->setDisplayFormat(format);
-    endTime->setDisplayFormat(format);
 }
 
 void EventFormDialog::Private::fillCalendars(const QString &currentId, bool includeCurrentEvenIfReadOnly)
@@ -519,7 +407,7 @@ void EventFormDialog::Private::showCalendarColor()
 void EventFormDialog::Private::fillRepeatLabels()
 {
     using RepeatPresets::Preset;
-    const QDateTime start(startDate->date(), startTime->time());
+    const QDateTime start = repeatAnchor();
     for (int i = 0; i < repeat->count(); ++i) {
         const auto preset = Preset(repeat->itemData(i).toInt());
         QString label;
@@ -535,168 +423,12 @@ void EventFormDialog::Private::fillRepeatLabels()
     }
 }
 
-QTimeZone EventFormDialog::Private::formZone() const
+// The start the repeat choices are worded from: its weekday, day of month and date where the
+// event happens (in its own zone).
+QDateTime EventFormDialog::Private::repeatAnchor() const
 {
-    const QString text = zone->currentText().trimmed();
-    // A zone the event came with that this system does not know: its times keep their offset.
-    if (!isNew && text == original.timezone && !zoneNamed(text).isValid() && original.start_time.isValid())
-        return original.start_time.timeZone();
-    return zoneNamed(text);
-}
-
-QDateTime EventFormDialog::Private::timedStart() const
-{
-    const QTimeZone tz = formZone();
-    return tz.isValid() ? QDateTime(startDate->date(), startTime->time(), tz) : QDateTime();
-}
-
-QDateTime EventFormDialog::Private::timedEnd() const
-{
-    const QTimeZone tz = formZone();
-    return tz.isValid() ? QDateTime(endDate->date(), endTime->time(), tz) : QDateTime();
-}
-
-void EventFormDialog::Private::showTimes(const QDateTime &start, const std::optional<QDateTime> &end, bool allDayEvent)
-{
-    updating = true;
-    allDay->setChecked(allDayEvent);
-    if (allDayEvent) {
-        // The stored end of an all-day event is the day after its last day.
-        const QDate first = EventWording::allDayDate(start);
-        QDate last = end ? EventWording::allDayDate(*end).addDays(-1) : first;
-        if (last < first)
-            last = first;
-        startDate->setDate(first);
-        endDate->setDate(last);
-        startTime->setTime(QTime(9, 0));
-        endTime->setTime(QTime(10, 0));
-        allDaySpanDays = int(first.daysTo(last));
-        timedSpanSecs = 3600;
-    } else {
-        const QTimeZone tz = formZone();
-        const QDateTime shownStart = tz.isValid() ? start.toTimeZone(tz) : start;
-        const QDateTime shownEnd = end ? (tz.isValid() ? end->toTimeZone(tz) : *end) : shownStart;
-        startDate->setDate(shownStart.date());
-        startTime->setTime(shownStart.time());
-        endDate->setDate(shownEnd.date());
-        endTime->setTime(shownEnd.time());
-        timedSpanSecs = qMax<qint64>(0, shownStart.secsTo(shownEnd));
-        allDaySpanDays = int(qMax<qint64>(0, shownStart.date().daysTo(shownEnd.date())));
-    }
-    updating = false;
-    updateModeVisibility();
-    fillRepeatLabels();
-    updateLocalHint();
-    revalidate();
-}
-
-void EventFormDialog::Private::onStartChanged()
-{
-    if (updating)
-        return;
-    updating = true;
-    if (allDay->isChecked()) {
-        endDate->setDate(startDate->date().addDays(allDaySpanDays));
-    } else {
-        const QDateTime end = timedStart().addSecs(timedSpanSecs);
-        if (end.isValid()) {
-            endDate->setDate(end.date());
-            endTime->setTime(end.time());
-        }
-    }
-    updating = false;
-    fillRepeatLabels();
-    updateRuleHint();
-    updateLocalHint();
-    revalidate();
-}
-
-void EventFormDialog::Private::onEndChanged()
-{
-    if (updating)
-        return;
-    if (allDay->isChecked()) {
-        const qint64 days = startDate->date().daysTo(endDate->date());
-        if (days >= 0)
-            allDaySpanDays = int(days);
-    } else {
-        const qint64 secs = timedStart().secsTo(timedEnd());
-        if (secs >= 0)
-            timedSpanSecs = secs;
-    }
-    updateLocalHint();
-    revalidate();
-}
-
-void EventFormDialog::Private::onAllDayToggled(bool on)
-{
-    if (updating)
-        return;
-    updating = true;
-    if (on) {
-        // The last day is the one the event ends on, or the day before when it ends at midnight.
-        QDate last = endDate->date();
-        if (endTime->time() == QTime(0, 0) && last > startDate->date())
-            last = last.addDays(-1);
-        if (last < startDate->date())
-            last = startDate->date();
-        endDate->setDate(last);
-        allDaySpanDays = int(startDate->date().daysTo(last));
-    } else {
-        // Dates carry no zone; hours do, and the natural one is the user's own.
-        if (zone->currentText().trimmed() == QLatin1String("UTC") && (isNew || original.is_all_day)) {
-            const QSignalBlocker blocker(zone);
-            zone->setEditText(systemZoneId());
-        }
-        if (endDate->date() == startDate->date() && endTime->time() <= startTime->time()) {
-            startTime->setTime(QTime(9, 0));
-            endTime->setTime(QTime(10, 0));
-        }
-        const qint64 secs = timedStart().secsTo(timedEnd());
-        if (secs > 0) {
-            timedSpanSecs = secs;
-        } else {
-            const QDateTime end = timedStart().addSecs(3600);
-            endDate->setDate(end.date());
-            endTime->setTime(end.time());
-            timedSpanSecs = 3600;
-        }
-    }
-    updating = false;
-    updateModeVisibility();
-    updateLocalHint();
-    revalidate();
-}
-
-void EventFormDialog::Private::updateModeVisibility()
-{
-    const bool timed = !allDay->isChecked();
-    startTime->setVisible(timed);
-    endTime->setVisible(timed);
-    zone->setVisible(timed);
-    zoneIcon->setVisible(timed);
-}
-
-void EventFormDialog::Private::updateLocalHint()
-{
-    showHint(timeHint, QString(), false);
-    if (allDay->isChecked())
-        return;
-    const QDateTime start = timedStart();
-    const QDateTime end = timedEnd();
-    if (!start.isValid() || !end.isValid() || end < start)
-        return;
-    const QDateTime localStart = start.toLocalTime();
-    if (localStart.date() == start.date() && localStart.time() == start.time())
-        return;
-    Event shown;
-    shown.start_time = start;
-    shown.end_time = end;
-    showHint(timeHint,
-             tr("%1 in your time zone")
-                 .arg(EventWording::timeRange(shown, EventWording::prefers24Hour(appState->preferences()),
-                                              localStart.date().year())),
-             false);
+    const QDateTime start = times->start();
+    return times->isAllDay() || !start.isValid() ? QDateTime(times->firstDay(), QTime(9, 0)) : start;
 }
 
 QString EventFormDialog::Private::currentRule() const
@@ -735,9 +467,9 @@ void EventFormDialog::Private::updateRuleHint()
     const QString rule = RepeatPresets::normalizedCustomRule(customRule->text());
     // An unusable rule is explained by the validation, in the same place.
     if (!custom || !RepeatPresets::isRepeatingRule(rule))
-        showHint(ruleHint, QString(), false);
+        HintLabel::show(ruleHint, QString(), false);
     else
-        showHint(ruleHint, EventWording::repeatRule(rule, QDateTime(startDate->date(), startTime->time())), false);
+        HintLabel::show(ruleHint, EventWording::repeatRule(rule, repeatAnchor()), false);
 }
 
 EventFormDialog::Private::Problem EventFormDialog::Private::validationProblem() const
@@ -745,14 +477,9 @@ EventFormDialog::Private::Problem EventFormDialog::Private::validationProblem() 
     using RepeatPresets::Preset;
     if (calendar->count() == 0)
         return {tr("There is no calendar to add events to."), error};
-    if (allDay->isChecked()) {
-        if (endDate->date() < startDate->date())
-            return {tr("The event ends before it starts."), timeHint};
-    } else if (!formZone().isValid()) {
-        return {tr("\"%1\" is not a time zone this computer knows.").arg(zone->currentText().trimmed()), timeHint};
-    } else if (timedEnd() < timedStart()) {
-        return {tr("The event ends before it starts."), timeHint};
-    }
+    // The time editor shows its own problems under the times.
+    if (const QString timeProblem = times->problem(); !timeProblem.isEmpty())
+        return {timeProblem, nullptr};
     if (Preset(repeat->currentData().toInt()) == Preset::Custom
         && !RepeatPresets::isRepeatingRule(RepeatPresets::normalizedCustomRule(customRule->text())))
         return {tr("This calendar repeats by FREQ=DAILY, FREQ=WEEKLY, FREQ=MONTHLY or FREQ=YEARLY; start the rule "
@@ -761,29 +488,23 @@ EventFormDialog::Private::Problem EventFormDialog::Private::validationProblem() 
     return {};
 }
 
-void EventFormDialog::Private::showHint(QLabel *hint, const QString &text, bool isError)
-{
-    hint->setText(text);
-    hint->setVisible(!text.isEmpty());
-    if (hint->property("error").toBool() != isError) {
-        hint->setProperty("error", isError);
-        hint->style()->unpolish(hint);
-        hint->style()->polish(hint);
-    }
-}
-
 void EventFormDialog::Private::revalidate()
 {
     if (updating)
         return;
-    updateLocalHint();
     updateRuleHint();
     const Problem problem = validationProblem();
     if (problem.where == error || problem.message.isEmpty())
-        showHint(error, problem.message, true);
+        HintLabel::show(error, problem.message, true);
     if (problem.where && problem.where != error)
-        showHint(problem.where, problem.message, true);
+        HintLabel::show(problem.where, problem.message, true);
     saveButton->setEnabled(problem.message.isEmpty() && !readOnly);
+    // A hint that appears makes room for itself rather than squeezing the fields.
+    if (q->isVisible()) {
+        q->layout()->activate();
+        if (q->height() < q->sizeHint().height())
+            q->resize(q->width(), q->sizeHint().height());
+    }
 }
 
 Event EventFormDialog::Private::editedEvent() const
@@ -802,27 +523,23 @@ Event EventFormDialog::Private::editedEvent() const
     event.reminders = reminders->reminders();
     event.recurrence_rule = currentRule();
 
-    event.is_all_day = allDay->isChecked();
+    event.is_all_day = times->isAllDay();
+    event.start_time = times->start();
+    event.end_time = times->end();
     if (event.is_all_day) {
-        const QDate first = startDate->date();
-        const QDate last = qMax(endDate->date(), first);
-        event.start_time = QDateTime(first, QTime(0, 0), QTimeZone::utc());
-        event.end_time = QDateTime(last.addDays(1), QTime(0, 0), QTimeZone::utc());
         // All-day dates carry no zone; an event that was timed keeps none either.
         if (!original.is_all_day || isNew)
             event.timezone = QStringLiteral("UTC");
-        if (!isNew && original.is_all_day && !original.end_time && last == first)
+        if (!isNew && original.is_all_day && !original.end_time && *event.end_time == event.start_time.addDays(1))
             event.end_time.reset();
     } else {
-        event.timezone = zone->currentText().trimmed();
-        event.start_time = timedStart();
-        event.end_time = timedEnd();
+        event.timezone = times->zoneId();
         if (!isNew && !original.is_all_day && !original.end_time && *event.end_time == event.start_time)
             event.end_time.reset();
     }
     // Times the user did not move keep their stored form.
     if (!isNew && event.is_all_day && original.is_all_day && original.start_time.isValid()) {
-        if (EventWording::allDayDate(original.start_time) == startDate->date())
+        if (EventWording::allDayDate(original.start_time) == event.start_time.date())
             event.start_time = original.start_time;
         if (original.end_time && event.end_time
             && EventWording::allDayDate(*original.end_time) == event.end_time->date())
@@ -903,11 +620,11 @@ void EventFormDialog::Private::trySave()
         if (!RecurrenceScopeDialog::ask(q, &scope, tr("Save repeating event")))
             return;
         if (scope == EventEditor::Scope::ThisEvent && edited.recurrence_rule != initialRule) {
-            showHint(error, tr("A new repeat applies to this and following events, or to all events."), true);
+            HintLabel::show(error, tr("A new repeat applies to this and following events, or to all events."), true);
             return;
         }
     }
-    showHint(error, QString(), true);
+    HintLabel::show(error, QString(), true);
     if (!editor->save(original, edited, scope))
         return;
     saved = storedAfterSave(edited, scope);
@@ -950,16 +667,9 @@ void EventFormDialog::setNewEvent(const QDateTime &start, const QDateTime &end, 
     d->description->clear();
     d->colors->setColor(QString());
     d->reminders->setReminders(draft.reminders);
-    {
-        const QSignalBlocker blocker(d->zone);
-        d->zone->setEditText(systemZoneId());
-    }
-    {
-        d->updating = true;
-        d->repeat->setCurrentIndex(d->repeat->findData(int(RepeatPresets::Preset::None)));
-        d->customRule->clear();
-        d->updating = false;
-    }
+    d->updating = true;
+    d->repeat->setCurrentIndex(d->repeat->findData(int(RepeatPresets::Preset::None)));
+    d->customRule->clear();
     QDateTime shownStart = start;
     QDateTime shownEnd = end;
     if (allDay) {
@@ -970,7 +680,10 @@ void EventFormDialog::setNewEvent(const QDateTime &start, const QDateTime &end, 
     } else if (!shownEnd.isValid() || shownEnd < shownStart) {
         shownEnd = shownStart.addSecs(3600);
     }
-    d->showTimes(shownStart, shownEnd, allDay);
+    // An all-day event turned timed takes the user's zone.
+    d->times->setTimes(shownStart, shownEnd, allDay, systemZoneId());
+    d->updating = false;
+    d->fillRepeatLabels();
     d->onRepeatChanged();
 
     const QList<Template> presets = d->appState->templates()->getAll();
@@ -1007,18 +720,18 @@ void EventFormDialog::applyTemplate(const Template &preset)
     }
     d->reminders->setReminders(presetReminders);
 
-    const QDateTime start
-        = d->allDay->isChecked() ? QDateTime(d->startDate->date(), QTime(0, 0), QTimeZone::utc()) : d->timedStart();
-    QDateTime end;
+    const QDate day = d->times->firstDay();
+    const QString zoneId = d->times->zoneId();
     if (preset.is_all_day) {
         const int days = qMax(1, (preset.duration_minutes + 1439) / 1440);
-        end = QDateTime(start.date().addDays(days), QTime(0, 0), QTimeZone::utc());
-        d->showTimes(QDateTime(start.date(), QTime(0, 0), QTimeZone::utc()), end, true);
+        d->times->setTimes(QDateTime(day, QTime(0, 0), QTimeZone::utc()),
+                           QDateTime(day.addDays(days), QTime(0, 0), QTimeZone::utc()), true, zoneId);
     } else {
-        QDateTime timedStart = start;
-        if (d->allDay->isChecked())
-            timedStart = QDateTime(start.date(), QTime(9, 0), d->formZone());
-        d->showTimes(timedStart, timedStart.addSecs(qint64(qMax(0, preset.duration_minutes)) * 60), false);
+        QDateTime start = d->times->start();
+        if (d->times->isAllDay() || !start.isValid())
+            start = QDateTime(day, QTime(9, 0),
+                              d->times->zone().isValid() ? d->times->zone() : QTimeZone::systemTimeZone());
+        d->times->setTimes(start, start.addSecs(qint64(qMax(0, preset.duration_minutes)) * 60), false, zoneId);
     }
     const RepeatPresets::Preset repeatPreset = RepeatPresets::presetOf(preset.recurrence_rule);
     if (repeatPreset == RepeatPresets::Preset::Custom)
@@ -1058,24 +771,18 @@ void EventFormDialog::setEvent(const Event &occurrence)
     d->description->setPlainText(occurrence.description);
     d->colors->setColor(occurrence.color);
     d->reminders->setReminders(occurrence.reminders);
-    {
-        const QSignalBlocker blocker(d->zone);
-        d->zone->setEditText(occurrence.timezone);
-    }
-    {
-        d->updating = true;
-        d->customRule->setText(d->initialPreset == RepeatPresets::Preset::Custom ? d->initialRule : QString());
-        d->customRule->setCursorPosition(0);
-        d->repeat->setCurrentIndex(d->repeat->findData(int(d->initialPreset)));
-        d->updating = false;
-    }
-    d->showTimes(occurrence.start_time, occurrence.end_time, occurrence.is_all_day);
+    d->updating = true;
+    d->customRule->setText(d->initialPreset == RepeatPresets::Preset::Custom ? d->initialRule : QString());
+    d->customRule->setCursorPosition(0);
+    d->repeat->setCurrentIndex(d->repeat->findData(int(d->initialPreset)));
+    d->times->setTimes(occurrence.start_time, occurrence.end_time, occurrence.is_all_day, occurrence.timezone);
+    d->updating = false;
+    d->fillRepeatLabels();
     d->onRepeatChanged();
 
-    for (QWidget *widget :
-         std::initializer_list<QWidget *>{d->title, d->startDate, d->startTime, d->endTime, d->endDate, d->allDay,
-                                          d->zone, d->repeat, d->customRule, d->colors, d->location})
+    for (QWidget *widget : std::initializer_list<QWidget *>{d->title, d->repeat, d->customRule, d->colors, d->location})
         widget->setEnabled(!d->readOnly);
+    d->times->setReadOnly(d->readOnly);
     d->description->setReadOnly(d->readOnly);
     d->reminders->setReadOnly(d->readOnly);
     d->saveButton->setVisible(!d->readOnly);
