@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/SampleData.h"
 
+#include "ical/TimeZones.h"
+
 #include "ical/ICal.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -216,8 +218,7 @@ void seedSampleData(AccountRepository &accounts, CalendarRepository &calendars, 
 
     const QDateTime now = Clock::nowUtc();
     const QDate today = Clock::nowLocal().date();
-    const QByteArray localZone = QTimeZone::systemTimeZoneId();
-    const QString zoneName = QTimeZone(localZone).isValid() ? QString::fromUtf8(localZone) : QStringLiteral("UTC");
+    const QString zoneName = TimeZones::systemZoneId();
 
     for (const SampleEvent &item : sampleEvents()) {
         Event event;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/EventFormDialog.h"
 
+#include "ical/TimeZones.h"
+
 #include "app/AppState.h"
 #include "storage/CalendarChoice.h"
 #include "storage/CalendarRepository.h"
@@ -40,12 +42,6 @@
 #include <functional>
 
 namespace {
-
-QString systemZoneId()
-{
-    const QByteArray id = QTimeZone::systemTimeZoneId();
-    return QTimeZone(id).isValid() ? QString::fromUtf8(id) : QStringLiteral("UTC");
-}
 
 QIcon swatchIcon(const QColor &color)
 {
@@ -650,7 +646,7 @@ void EventFormDialog::setNewEvent(const QDateTime &start, const QDateTime &end, 
     d->readOnly = false;
     setWindowTitle(tr("New Event"));
     Event draft;
-    draft.timezone = allDay ? QStringLiteral("UTC") : systemZoneId();
+    draft.timezone = allDay ? QStringLiteral("UTC") : TimeZones::systemZoneId();
     draft.is_all_day = allDay;
     const CalendarChoice::Choice choice = CalendarChoice::forNewEvents(*d->appState->database());
     draft.calendar_id = choice.calendar ? choice.calendar->id : QString();
@@ -681,7 +677,7 @@ void EventFormDialog::setNewEvent(const QDateTime &start, const QDateTime &end, 
         shownEnd = shownStart.addSecs(3600);
     }
     // An all-day event turned timed takes the user's zone.
-    d->times->setTimes(shownStart, shownEnd, allDay, systemZoneId());
+    d->times->setTimes(shownStart, shownEnd, allDay, TimeZones::systemZoneId());
     d->updating = false;
     d->fillRepeatLabels();
     d->onRepeatChanged();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/EventTimeEditor.h"
 
+#include "ical/TimeZones.h"
+
 #include "storage/Event.h"
 #include "ui/EventWording.h"
 #include "ui/HintLabel.h"
@@ -21,19 +23,6 @@
 namespace {
 
 constexpr char16_t kGlyphPublic = 0xe80b; // a globe, beside the time zone
-
-QTimeZone zoneNamed(const QString &id)
-{
-    if (id == QLatin1String("UTC"))
-        return QTimeZone::utc();
-    return QTimeZone(id.toUtf8());
-}
-
-QString systemZoneId()
-{
-    const QByteArray id = QTimeZone::systemTimeZoneId();
-    return QTimeZone(id).isValid() ? QString::fromUtf8(id) : QStringLiteral("UTC");
-}
 
 } // namespace
 
@@ -161,7 +150,7 @@ void EventTimeEditor::setTimes(const QDateTime &start, const std::optional<QDate
     m_openedAllDay = allDay;
     m_unknownZoneId.clear();
     m_unknownZoneOffset = QTimeZone();
-    if (!zoneNamed(zoneId.trimmed()).isValid() && start.isValid()) {
+    if (!TimeZones::named(zoneId.trimmed()).isValid() && start.isValid()) {
         m_unknownZoneId = zoneId.trimmed();
         m_unknownZoneOffset = start.timeZone();
     }
@@ -223,7 +212,7 @@ QTimeZone EventTimeEditor::zone() const
     const QString id = zoneId();
     if (!m_unknownZoneId.isEmpty() && id == m_unknownZoneId)
         return m_unknownZoneOffset;
-    return zoneNamed(id);
+    return TimeZones::named(id);
 }
 
 QDateTime EventTimeEditor::timedStart() const
@@ -348,7 +337,7 @@ void EventTimeEditor::onAllDayToggled(bool on)
         // Dates carry no zone; hours do, and the natural one is the user's own.
         if (m_openedAllDay && zoneId() == QLatin1String("UTC")) {
             const QSignalBlocker blocker(m_zone);
-            m_zone->setEditText(systemZoneId());
+            m_zone->setEditText(TimeZones::systemZoneId());
         }
         if (m_endDate->date() == m_startDate->date() && m_endTime->time() <= m_startTime->time()) {
             m_startTime->setTime(QTime(9, 0));
