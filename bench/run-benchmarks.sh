@@ -36,3 +36,14 @@ else
     done
     printf '%s\n' "${times[@]}" | sort -n | sed -n '3s/^/median of 5 runs (s): /p'
 fi
+
+# Event storage: a redraw's read of a mid-period week and month through the event repository
+# beside the bare range statement, and the import of the 100,000-event calendar (in process and
+# as a whole `kbcal import`), all over a database filled from the generated file.
+ics="$data/bench100k.ics"
+if [[ ! -s "$ics" ]]; then
+    mkdir -p "$data"
+    /usr/bin/python3 "$gen_ics" -n 100000 -o "$ics.part"
+    mv "$ics.part" "$ics"
+fi
+QT_LOGGING_RULES="*.info=false" "$build/bin/bench_event_storage" --ics "$ics" --kbcal "$build/bin/kbcal" --repeat 30

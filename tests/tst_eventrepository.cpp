@@ -77,6 +77,7 @@ private slots:
     void search();
     void changeSignalIsCoalesced();
     void failedChangeSendsNoSignal();
+    void repositoryOutlivesTheDatabase();
 
 private:
     StoreFixture m_store;
@@ -691,6 +692,19 @@ void TestEventRepository::failedChangeSendsNoSignal()
                          QRegularExpression(QStringLiteral("^EventRepository::insert failed: FOREIGN KEY constraint")));
     QVERIFY(!m_repo->insert(orphan));
     QVERIFY(!spy.wait(300));
+}
+
+void TestEventRepository::repositoryOutlivesTheDatabase()
+{
+    // The application state owns the database as a member and the repositories as children, so
+    // the database goes first; statements kept for reuse must not outlive it badly.
+    const QDateTime start = utc(QStringLiteral("2025-03-12T10:00:00"));
+    QVERIFY(m_repo->insert(makeEvent(QStringLiteral("e"), QStringLiteral("cal-a"), start, std::nullopt)));
+    QCOMPARE(m_repo->getInRange(start.addDays(-1), start.addDays(1)).size(), 1);
+    QVERIFY(m_repo->getById(QStringLiteral("e")));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("still in use")));
+    m_store.close();
+    m_repo.reset();
 }
 
 QTEST_GUILESS_MAIN(TestEventRepository)
