@@ -23,8 +23,9 @@ bool execute(QSqlQuery &query, const QVariantList &values);
 bool exec(QSqlQuery &query, const QString &sql, const QVariantList &values = {});
 // The value to bind for a NOT NULL text column: the text, or empty text (never NULL).
 QVariant requiredText(const QString &text);
-// The zone of an IANA identifier, invalid when no such zone is known. Looked up once per name and
-// thread: reading a span converts every zoned event row.
+// The zone of an IANA identifier, invalid when no such zone is known or the text is not shaped
+// like a zone identifier (stored zone names come from other people's calendars). Looked up once
+// per name and thread: reading a span converts every zoned event row.
 QTimeZone zoneNamed(const QString &name);
 
 // Runs `sql` ("UPDATE ... SET <order> = ?, ..., updated_at = ? WHERE id = ?") once per id, with
