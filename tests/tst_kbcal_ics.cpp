@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // `kbcal ics parse`, in process against buffers and once as a process, and the JSON text writer
 // it streams its records with.
-#include "cli/Cli.h"
 #include "cli/JsonRecords.h"
 #include "cli/JsonText.h"
 #include "ical/ICal.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -18,31 +19,7 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments, const QByteArray &input = QByteArray())
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.setData(input);
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 const QString kFeed = QStringLiteral(KB_TEST_DATA_DIR "/ical/generated-feed-300-events.ics");
 

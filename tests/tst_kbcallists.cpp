@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/Cli.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
 #include "storage/Database.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -15,30 +16,7 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments)
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 QJsonArray jsonArray(const Result &result)
 {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/Cli.h"
 #include "ical/NLParser.h"
 #include "storage/Clock.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -34,30 +35,7 @@ const QDateTime kMonday = utc(2024, 3, 18, 9, 0);
 
 constexpr int kNoMatch = -2;
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments)
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 } // namespace
 
