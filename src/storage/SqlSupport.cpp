@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/SqlSupport.h"
 
-#include "ical/ZoneCache.h"
+#include "ical/TimeZones.h"
 #include "storage/Clock.h"
 #include "storage/LogCategories.h"
 #include "storage/StorageFormat.h"
@@ -42,7 +42,7 @@ QTimeZone zoneNamed(const QString &name)
     thread_local QHash<QString, QTimeZone> zones;
     auto it = zones.constFind(name);
     if (it == zones.constEnd())
-        it = zones.insert(name, ICal::ZoneCache::lookup(name.toUtf8()));
+        it = zones.insert(name, TimeZones::named(name));
     return *it;
 }
 
