@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Fetches the interface fonts from npm and converts them to the TrueType/OpenType files the
-# program embeds: IBM Plex Sans (regular and italic), IBM Plex Mono Medium and the Material
+# program embeds: IBM Plex Sans (regular, italic and semibold), IBM Plex Mono Medium and the Material
 # Icons font. The npm packages ship WOFF; fontTools (Debian's python3-fonttools) unpacks them.
 set -euo pipefail
 
 dest=${1:?usage: fetch-fonts.sh DEST_DIR}
-wanted=(IBMPlexSans.ttf IBMPlexSans-Italic.ttf IBMPlexMono-Medium.ttf MaterialIcons-Regular.otf)
+wanted=(IBMPlexSans.ttf IBMPlexSans-Italic.ttf IBMPlexMono-Medium.ttf MaterialIcons-Regular.otf IBMPlexSans-SemiBold.ttf)
 
 have_all=1
 for f in "${wanted[@]}"; do
@@ -35,6 +35,7 @@ PY
 }
 convert "$work"/ibm-plex-sans-*/fonts/complete/woff/IBMPlexSans-Regular.woff "$dest/IBMPlexSans.ttf"
 convert "$work"/ibm-plex-sans-*/fonts/complete/woff/IBMPlexSans-Italic.woff "$dest/IBMPlexSans-Italic.ttf"
+convert "$work"/ibm-plex-sans-*/fonts/complete/woff/IBMPlexSans-SemiBold.woff "$dest/IBMPlexSans-SemiBold.ttf"
 convert "$work"/ibm-plex-mono-*/fonts/complete/woff/IBMPlexMono-Medium.woff "$dest/IBMPlexMono-Medium.ttf"
 convert "$work"/material-icons-*/iconfont/material-icons.woff "$dest/MaterialIcons-Regular.otf"
 echo "Fonts ready in $dest"

@@ -77,6 +77,8 @@ void Application::loadFonts()
     QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/IBMPlexSans-Italic.ttf"));
     QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/IBMPlexMono-Medium.ttf"));
     const int icons = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/MaterialIcons-Regular.otf"));
+    // The semibold face of titles and headings; without it they are drawn emboldened.
+    QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/IBMPlexSans-SemiBold.ttf"));
     if (icons < 0) {
         qCWarning(lcApp).noquote()
             << "[Fonts] Failed to load Material Icons font — indicators will fall back to a missing-glyph box.";
