@@ -173,20 +173,26 @@ void TestTimelineMath::labels_data()
     QTest::addColumn<QString>("hour");
     QTest::addColumn<QString>("time");
     QTest::addColumn<QString>("range");
+    QTest::addColumn<QString>("overnight");
     QTest::newRow("morning") << false << QTime(9, 30) << QTime(10, 45) << "9 AM"
                              << "9:30 AM"
-                             << "9:30 – 10:45 AM";
+                             << "9:30 – 10:45 AM"
+                             << "9:30 AM – 10:45 AM";
     QTest::newRow("across noon") << false << QTime(11, 0) << QTime(13, 30) << "11 AM"
                                  << "11 AM"
+                                 << "11 AM – 1:30 PM"
                                  << "11 AM – 1:30 PM";
     QTest::newRow("midnight") << false << QTime(0, 5) << QTime(0, 50) << "12 AM"
                               << "12:05 AM"
-                              << "12:05 – 12:50 AM";
+                              << "12:05 – 12:50 AM"
+                              << "12:05 AM – 12:50 AM";
     QTest::newRow("noon") << false << QTime(12, 0) << QTime(12, 30) << "12 PM"
                           << "12 PM"
-                          << "12 – 12:30 PM";
+                          << "12 – 12:30 PM"
+                          << "12 PM – 12:30 PM";
     QTest::newRow("24-hour") << true << QTime(9, 5) << QTime(17, 0) << "09:00"
                              << "09:05"
+                             << "09:05 – 17:00"
                              << "09:05 – 17:00";
 }
 
@@ -198,9 +204,11 @@ void TestTimelineMath::labels()
     QFETCH(QString, hour);
     QFETCH(QString, time);
     QFETCH(QString, range);
+    QFETCH(QString, overnight);
     QCOMPARE(TimelineMath::hourLabel(start.hour(), use24), hour);
     QCOMPARE(TimelineMath::timeText(start, use24), time);
     QCOMPARE(TimelineMath::rangeText(start, end, use24), range);
+    QCOMPARE(TimelineMath::rangeText(start, end, use24, false), overnight);
 }
 
 QTEST_APPLESS_MAIN(TestTimelineMath)

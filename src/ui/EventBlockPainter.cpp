@@ -56,7 +56,8 @@ QStringList wrapped(const QString &text, const QFont &font, int width, int maxLi
     const QFontMetrics metrics(font);
     QTextLayout layout(text, font);
     QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    // Words stay whole; a word wider than the block is elided rather than cut into pieces.
+    option.setWrapMode(QTextOption::WordWrap);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
@@ -65,7 +66,13 @@ QStringList wrapped(const QString &text, const QFont &font, int width, int maxLi
             lines.append(metrics.elidedText(text.mid(line.textStart()).simplified(), Qt::ElideRight, width));
             break;
         }
-        lines.append(text.mid(line.textStart(), line.textLength()).trimmed());
+        const QString part = text.mid(line.textStart(), line.textLength()).trimmed();
+        // A word wider than the block: one elided line reads better than a broken word.
+        if (metrics.horizontalAdvance(part) > width) {
+            layout.endLayout();
+            return {metrics.elidedText(text.simplified(), Qt::ElideRight, width)};
+        }
+        lines.append(part);
     }
     layout.endLayout();
     return lines;
@@ -118,7 +125,8 @@ QFont detailFont(const QFont &base)
 }
 
 void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const Look &look,
-                const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool roundTop, bool roundBottom)
+                const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool roundTop, bool roundBottom,
+                int textTop)
 {
     if (rect.width() < 2 || rect.height() < 2)
         return;
@@ -145,6 +153,13 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
     const QFont detail = detailFont(baseFont);
     const QFontMetrics titleMetrics(title);
     const QFontMetrics detailMetrics(detail);
+    const int titleLine = titleMetrics.height();
+    const int detailLine = detailMetrics.height();
+    const int padding = 3;
+    // The part of the block the texts go in: from textTop down, but never less than one line.
+    QRect area = rect;
+    if (textTop > rect.top())
+        area.setTop(std::max(rect.top(), std::min(textTop, rect.bottom() + 1 - titleLine - 2 * padding)));
     const int left = rect.left() + kColorBarWidth + 5;
     const int width = rect.right() - 3 - left;
     if (width < 8) {
@@ -152,15 +167,12 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
         return;
     }
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    const int titleLine = titleMetrics.height();
-    const int detailLine = detailMetrics.height();
-    const int padding = 3;
-    const int available = rect.height() - 2 * padding;
+    const int available = area.height() - 2 * padding;
     if (available < titleLine + detailLine) {
         // One line: the title, and the time after it when there is room.
-        int y = rect.top() + std::max(0, (rect.height() - titleLine) / 2);
-        if (rect.height() >= titleLine + 2)
-            y = rect.top() + std::min(padding, (rect.height() - titleLine) / 2);
+        int y = area.top() + std::max(0, (area.height() - titleLine) / 2);
+        if (area.height() >= titleLine + 2)
+            y = area.top() + std::min(padding, (area.height() - titleLine) / 2);
         const int timeWidth = texts.time.isEmpty() ? 0 : detailMetrics.horizontalAdvance(texts.time) + 6;
         const bool withTime = timeWidth > 0 && titleMetrics.horizontalAdvance(texts.title) + timeWidth <= width;
         const QString titleText = titleMetrics.elidedText(texts.title, Qt::ElideRight, width);
@@ -179,7 +191,7 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
     // Several lines: the title wrapped, then the time, then the place, as far as they fit.
     int lines = (available - (texts.time.isEmpty() ? 0 : detailLine)) / titleLine;
     const QStringList titleLines = wrapped(texts.title, title, width, std::max(1, lines));
-    int y = rect.top() + padding;
+    int y = area.top() + padding;
     painter.setFont(title);
     painter.setPen(colors.text);
     for (const QString &line : titleLines) {
@@ -189,7 +201,7 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
     painter.setFont(detail);
     painter.setPen(colors.textMuted);
     for (const QString &line : {texts.time, texts.location}) {
-        if (line.isEmpty() || y + detailLine > rect.bottom() - padding + 2)
+        if (line.isEmpty() || y + detailLine > area.bottom() - padding + 2)
             continue;
         painter.drawText(QRect(left, y, width, detailLine), Qt::AlignLeft | Qt::AlignVCenter,
                          detailMetrics.elidedText(line, Qt::ElideRight, width));

@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QString>
 
+#include <climits>
+
 class QPainter;
 
 // How the timeline draws an event: a timed block (tinted fill, a bar of the full colour at the
@@ -45,10 +47,11 @@ struct Texts
 };
 
 // `roundTop`/`roundBottom` false square the corners where the event continues from the previous
-// day or into the next one.
+// day or into the next one. The texts start at `textTop` when that lies inside the block (so that
+// a block scrolled partly out of view keeps its title in sight), else at the block's top.
 void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const Look &look,
                 const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool roundTop = true,
-                bool roundBottom = true);
+                bool roundBottom = true, int textTop = INT_MIN);
 // `openLeft`/`openRight` square the ends where the event continues beyond the days shown.
 void paintBar(QPainter &painter, const QRect &rect, const QString &text, const Look &look,
               const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool openLeft = false,

@@ -130,6 +130,22 @@ bool TimelineGrid::isOnHandle(qsizetype piece, const QPoint &pos) const
     return pos.y() > box.bottom() - kResizeHandle && box.height() >= kResizeHandle * 2;
 }
 
+void TimelineGrid::setVisibleTop(int y)
+{
+    if (y == m_visibleTop)
+        return;
+    // Only the blocks cut by the old or the new top edge move their titles.
+    for (qsizetype i = 0; i < m_context->layout.pieces.size(); ++i) {
+        const QRect box = pieceRect(i);
+        const auto cut = [&box](int top) {
+            return box.top() < top + 2 && box.bottom() > top;
+        };
+        if (cut(m_visibleTop) || cut(y))
+            update(box);
+    }
+    m_visibleTop = y;
+}
+
 bool TimelineGrid::isDragging() const
 {
     return m_drag.kind == DragKind::Move || m_drag.kind == DragKind::Resize || m_drag.kind == DragKind::Create;
@@ -245,13 +261,14 @@ void TimelineGrid::paintPieces(QPainter &painter, const QRect &exposed) const
         look.past = occurrence.end_time ? *occurrence.end_time <= now : occurrence.start_time <= now;
         const QDateTime start = occurrence.start_time.toLocalTime();
         const QDateTime end = occurrence.end_time ? occurrence.end_time->toLocalTime() : start;
-        const EventBlockPainter::Texts texts{occurrence.title,
-                                             TimelineMath::rangeText(start.time(), end.time(), m_context->use24Hour),
-                                             occurrence.location};
+        const EventBlockPainter::Texts texts{
+            occurrence.title,
+            TimelineMath::rangeText(start.time(), end.time(), m_context->use24Hour, start.date() == end.date()),
+            occurrence.location};
         // The event being dragged stays faintly in place while its preview follows the pointer.
         painter.setOpacity(piece.index == draggedIndex ? 0.35 : 1.0);
-        EventBlockPainter::paintTimed(painter, box, texts, look, colors, dark, font(), piece.startsHere,
-                                      piece.endsHere);
+        EventBlockPainter::paintTimed(painter, box, texts, look, colors, dark, font(), piece.startsHere, piece.endsHere,
+                                      m_visibleTop + 2);
     }
     painter.setOpacity(1.0);
     painter.setClipping(false);
@@ -266,7 +283,8 @@ void TimelineGrid::paintDrag(QPainter &painter) const
     const TimelineLayout &layout = m_context->layout;
     const QDateTime startTime = TimelineMath::dateTimeAt(layout.firstDay, start);
     const QDateTime endTime = TimelineMath::dateTimeAt(layout.firstDay, end);
-    const QString time = TimelineMath::rangeText(startTime.time(), endTime.time(), m_context->use24Hour);
+    const QString time = TimelineMath::rangeText(startTime.time(), endTime.time(), m_context->use24Hour,
+                                                 startTime.date() == endTime.date());
     painter.save();
     painter.setClipRect(QRect(m_context->gutter, 0, m_context->columnsWidth, height()));
     const int firstDay = std::max(0, TimelineMath::floorDiv(start, kMinutesPerDay));

@@ -34,6 +34,8 @@ public:
     int nowLineY() const;
     bool isDragging() const;
     void cancelDrag();
+    // The first row scrolled into view: blocks reaching above it keep their titles just below it.
+    void setVisibleTop(int y);
 
 signals:
     void eventClicked(qsizetype occurrenceIndex, const QRect &rect);
@@ -92,5 +94,6 @@ private:
     TimelineContext *m_context;
     Drag m_drag;
     QTimer m_nowTimer;
+    int m_visibleTop = 0;
     double m_zoomSteps = 0; // wheel steps not yet turned into a whole pixel of zoom
 };

@@ -145,13 +145,13 @@ QString timeText(const QTime &time, bool use24Hour)
     return withMeridiem(twelveHourNumber(time), time);
 }
 
-QString rangeText(const QTime &start, const QTime &end, bool use24Hour)
+QString rangeText(const QTime &start, const QTime &end, bool use24Hour, bool sameDay)
 {
     const QString dash = QStringLiteral(" – ");
     if (use24Hour)
         return timeText(start, true) + dash + timeText(end, true);
     // The meridiem is said once when both ends share it.
-    if ((start.hour() < 12) == (end.hour() < 12))
+    if (sameDay && (start.hour() < 12) == (end.hour() < 12))
         return twelveHourNumber(start) + dash + timeText(end, false);
     return timeText(start, false) + dash + timeText(end, false);
 }

@@ -64,9 +64,10 @@ int dayIndexAt(int x, int count, int left, int width);
 QDateTime inFormOf(const QDateTime &instant, const QDateTime &reference);
 
 // Labels: an hour in the gutter ("9 AM" or "09:00"), a time ("9:30 AM"/"09:30") and a range
-// ("9:30 – 10:45 AM", "11 AM – 1:30 PM", "09:30 – 10:45").
+// ("9:30 – 10:45 AM", "11 AM – 1:30 PM", "09:30 – 10:45"). A range whose ends fall on different
+// days names the meridiem at both ends ("10:45 PM – 12 PM").
 QString hourLabel(int hour, bool use24Hour);
 QString timeText(const QTime &time, bool use24Hour);
-QString rangeText(const QTime &start, const QTime &end, bool use24Hour);
+QString rangeText(const QTime &start, const QTime &end, bool use24Hour, bool sameDay = true);
 
 } // namespace TimelineMath

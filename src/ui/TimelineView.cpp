@@ -293,6 +293,7 @@ TimelineView::TimelineView(AppState *appState, SpanCache *cache, EventEditor *ed
     connect(bar, &QScrollBar::valueChanged, this, [this](int value) {
         if (!d->applyingScroll && d->scroll->verticalScrollBar()->maximum() > 0)
             d->topMinute = value * 60.0 / d->context.hourHeight;
+        d->grid->setVisibleTop(value);
     });
     connect(bar, &QScrollBar::rangeChanged, this, [this] { d->applyTopMinute(); });
 
