@@ -189,27 +189,27 @@ void AllDayStrip::paintEvent(QPaintEvent *)
     if (!layout.span)
         return;
     painter.setClipRect(QRect(m_context->gutter, 0, columns, height() - 1));
-    const QDateTime now = Clock::nowLocal();
+    const qint64 now = Clock::nowUtc().toMSecsSinceEpoch();
+    const EventBlockPainter::Fonts fonts(font());
     for (qsizetype i = 0; i < layout.bars.size(); ++i) {
         const QRect box = barRect(i);
         if (box.isNull())
             continue;
         const TimelineLayout::Bar &bar = layout.bars.at(i);
         const Event &occurrence = layout.occurrence(bar.index);
+        const TimelineLayout::Visual &visual = layout.visual(bar.index);
         EventBlockPainter::Look look;
-        look.color = m_context->cache->colorOf(occurrence);
-        look.dimmed = layout.isDimmed(bar.index);
+        look.color = visual.color;
+        look.dimmed = visual.dimmed;
         look.selected = m_context->isSelected(occurrence);
-        look.past = occurrence.end_time && *occurrence.end_time <= now;
+        look.past = visual.endMSecs <= now;
         if (m_drag.active && m_drag.bar == i)
-            painter.setOpacity(0.35);
+            look.fade = 0.35;
         QString text = occurrence.title;
         if (!occurrence.is_all_day && !bar.continuesBefore)
-            text = TimelineMath::timeText(occurrence.start_time.toLocalTime().time(), m_context->use24Hour)
-                + QLatin1Char(' ') + text;
-        EventBlockPainter::paintBar(painter, box, text, look, colors, dark, font(), bar.continuesBefore,
+            text = TimelineMath::timeText(visual.start, m_context->use24Hour) + QLatin1Char(' ') + text;
+        EventBlockPainter::paintBar(painter, box, text, look, colors, dark, fonts, bar.continuesBefore,
                                     bar.continuesAfter);
-        painter.setOpacity(1.0);
     }
     for (int day = 0; day < layout.dayCount; ++day) {
         const int count = overflowCount(day);
@@ -228,10 +228,10 @@ void AllDayStrip::paintEvent(QPaintEvent *)
         const TimelineLayout::Bar &bar = layout.bars.at(m_drag.bar);
         const Event &occurrence = layout.occurrence(bar.index);
         EventBlockPainter::Look look;
-        look.color = m_context->cache->colorOf(occurrence);
+        look.color = layout.visual(bar.index).color;
         look.ghost = true;
         EventBlockPainter::paintBar(painter, shiftedBarRect(m_drag.bar, m_drag.dayDelta), occurrence.title, look,
-                                    colors, dark, font(), bar.continuesBefore && m_drag.dayDelta <= 0,
+                                    colors, dark, fonts, bar.continuesBefore && m_drag.dayDelta <= 0,
                                     bar.continuesAfter && m_drag.dayDelta >= 0);
     }
 }

@@ -48,12 +48,14 @@ QPainterPath shape(const QRectF &rect, qreal radius, bool roundTop, bool roundBo
 }
 
 // Breaks `text` into at most `maxLines` lines of `width`, the last one elided when text remains.
-QStringList wrapped(const QString &text, const QFont &font, int width, int maxLines)
+QStringList wrapped(const QString &text, const QFont &font, const QFontMetrics &metrics, int width, int maxLines)
 {
     QStringList lines;
     if (maxLines <= 0 || width <= 0 || text.isEmpty())
         return lines;
-    const QFontMetrics metrics(font);
+    // One line is all there is room for, or all it takes: no layout needed.
+    if (maxLines == 1 || metrics.horizontalAdvance(text) <= width)
+        return {metrics.elidedText(text, Qt::ElideRight, width)};
     QTextLayout layout(text, font);
     QTextOption option;
     // Words stay whole; a word wider than the block is elided rather than cut into pieces.
@@ -89,7 +91,7 @@ void paintRing(QPainter &painter, const QPainterPath &path, const QColor &accent
 
 qreal opacity(const Look &look)
 {
-    qreal value = 1.0;
+    qreal value = look.fade;
     if (look.dimmed)
         value *= kDimmedOpacity;
     else if (look.past)
@@ -100,6 +102,11 @@ qreal opacity(const Look &look)
 QColor blockFill(const QColor &color, const ThemeManager::Colors &colors, bool dark)
 {
     return blend(colors.surface, color, dark ? 0.35 : 0.2);
+}
+
+QColor composite(const QColor &under, const QColor &over)
+{
+    return blend(under, QColor(over.red(), over.green(), over.blue()), over.alphaF());
 }
 
 QColor contrastText(const QColor &background)
@@ -124,35 +131,67 @@ QFont detailFont(const QFont &base)
     return font;
 }
 
+Fonts::Fonts(const QFont &base)
+    : title(titleFont(base))
+    , detail(detailFont(base))
+    , titleMetrics(title)
+    , detailMetrics(detail)
+{ }
+
+bool hasRoomForText(const QRect &rect)
+{
+    return rect.width() >= kColorBarWidth + 16 && rect.height() >= 8;
+}
+
 void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const Look &look,
-                const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool roundTop, bool roundBottom,
+                const ThemeManager::Colors &colors, bool dark, const Fonts &fonts, bool roundTop, bool roundBottom,
                 int textTop)
 {
-    if (rect.width() < 2 || rect.height() < 2)
+    if (rect.width() < 1 || rect.height() < 1)
         return;
+    const qreal alpha = opacity(look);
+    const QColor background = look.background.isValid() ? look.background : colors.surface;
+    const QColor fill = blend(background,
+                              look.ghost ? blend(colors.surface, look.color, dark ? 0.5 : 0.32)
+                                         : blend(background, look.color, dark ? 0.35 : 0.2),
+                              alpha);
+    const QColor bar = blend(background, look.color, alpha);
+    const QColor ring = blend(background, look.ghost ? look.color : colors.accent, alpha);
+    if (!hasRoomForText(rect) && !look.ghost) {
+        // Crowded days: hundreds of slivers, drawn plainly and quickly.
+        painter.fillRect(rect, fill);
+        painter.fillRect(
+            QRect(rect.left(), rect.top(), std::min(kColorBarWidth, std::max(1, rect.width() / 3)), rect.height()),
+            bar);
+        if (look.selected) {
+            painter.setPen(QPen(ring, 2));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(QRectF(rect).adjusted(1, 1, -1, -1));
+        }
+        return;
+    }
     painter.save();
-    painter.setOpacity(painter.opacity() * opacity(look));
     painter.setRenderHint(QPainter::Antialiasing, true);
     const QRectF box(rect);
-    const QPainterPath outline = shape(box, kCornerRadius, roundTop, roundBottom);
     if (look.ghost)
-        painter.fillPath(outline.translated(0, 2), colors.shadow);
-    painter.fillPath(outline,
-                     look.ghost ? blend(colors.surface, look.color, dark ? 0.5 : 0.32)
-                                : blockFill(look.color, colors, dark));
-    // The colour bar at the left edge, clipped to the rounded outline.
-    painter.save();
-    painter.setClipPath(outline);
-    painter.fillRect(QRectF(box.left(), box.top(), kColorBarWidth, box.height()), look.color);
-    painter.restore();
+        painter.fillPath(shape(box, kCornerRadius, roundTop, roundBottom).translated(0, 2), colors.shadow);
+    // The colour bar is the left edge of the outline; the fill replaces everything right of it.
+    // Opaque colours replace what is there ("Source"), which spares the raster engine a blend.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillPath(shape(QRectF(box.left(), box.top(), std::min(box.width(), kCornerRadius + 1.0), box.height()),
+                           kCornerRadius, roundTop, roundBottom, true, false),
+                     bar);
+    if (box.width() > kColorBarWidth)
+        painter.fillPath(
+            shape(box.adjusted(kColorBarWidth, 0, 0, 0), kCornerRadius, roundTop, roundBottom, false, true), fill);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     if (look.selected || look.ghost)
-        paintRing(painter, shape(box.adjusted(1, 1, -1, -1), kCornerRadius - 1, roundTop, roundBottom),
-                  look.ghost ? look.color : colors.accent);
+        paintRing(painter, shape(box.adjusted(1, 1, -1, -1), kCornerRadius - 1, roundTop, roundBottom), ring);
 
-    const QFont title = titleFont(baseFont);
-    const QFont detail = detailFont(baseFont);
-    const QFontMetrics titleMetrics(title);
-    const QFontMetrics detailMetrics(detail);
+    const QFont &title = fonts.title;
+    const QFont &detail = fonts.detail;
+    const QFontMetrics &titleMetrics = fonts.titleMetrics;
+    const QFontMetrics &detailMetrics = fonts.detailMetrics;
     const int titleLine = titleMetrics.height();
     const int detailLine = detailMetrics.height();
     const int padding = 3;
@@ -167,6 +206,8 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
         return;
     }
     painter.setRenderHint(QPainter::TextAntialiasing, true);
+    const QColor titleColor = blend(fill, colors.text, alpha);
+    const QColor detailColor = blend(fill, colors.textMuted, alpha);
     const int available = area.height() - 2 * padding;
     if (available < titleLine + detailLine) {
         // One line: the title, and the time after it when there is room.
@@ -177,12 +218,12 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
         const bool withTime = timeWidth > 0 && titleMetrics.horizontalAdvance(texts.title) + timeWidth <= width;
         const QString titleText = titleMetrics.elidedText(texts.title, Qt::ElideRight, width);
         painter.setFont(title);
-        painter.setPen(colors.text);
+        painter.setPen(titleColor);
         painter.drawText(QRect(left, y, width, titleLine), Qt::AlignLeft | Qt::AlignVCenter, titleText);
         if (withTime) {
             const int x = left + titleMetrics.horizontalAdvance(titleText) + 6;
             painter.setFont(detail);
-            painter.setPen(colors.textMuted);
+            painter.setPen(detailColor);
             painter.drawText(QRect(x, y, left + width - x, titleLine), Qt::AlignLeft | Qt::AlignVCenter, texts.time);
         }
         painter.restore();
@@ -190,16 +231,16 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
     }
     // Several lines: the title wrapped, then the time, then the place, as far as they fit.
     int lines = (available - (texts.time.isEmpty() ? 0 : detailLine)) / titleLine;
-    const QStringList titleLines = wrapped(texts.title, title, width, std::max(1, lines));
+    const QStringList titleLines = wrapped(texts.title, title, titleMetrics, width, std::max(1, lines));
     int y = area.top() + padding;
     painter.setFont(title);
-    painter.setPen(colors.text);
+    painter.setPen(titleColor);
     for (const QString &line : titleLines) {
         painter.drawText(QRect(left, y, width, titleLine), Qt::AlignLeft | Qt::AlignVCenter, line);
         y += titleLine;
     }
     painter.setFont(detail);
-    painter.setPen(colors.textMuted);
+    painter.setPen(detailColor);
     for (const QString &line : {texts.time, texts.location}) {
         if (line.isEmpty() || y + detailLine > area.bottom() - padding + 2)
             continue;
@@ -211,30 +252,30 @@ void paintTimed(QPainter &painter, const QRect &rect, const Texts &texts, const 
 }
 
 void paintBar(QPainter &painter, const QRect &rect, const QString &text, const Look &look,
-              const ThemeManager::Colors &colors, bool dark, const QFont &baseFont, bool openLeft, bool openRight)
+              const ThemeManager::Colors &colors, bool dark, const Fonts &fonts, bool openLeft, bool openRight)
 {
     if (rect.width() < 2 || rect.height() < 2)
         return;
+    const qreal alpha = opacity(look);
+    const QColor background = look.background.isValid() ? look.background : colors.surface;
+    const QColor full = dark ? look.color.darker(112) : look.color;
+    const QColor fill = blend(background, full, alpha);
     painter.save();
-    painter.setOpacity(painter.opacity() * opacity(look));
     painter.setRenderHint(QPainter::Antialiasing, true);
-    const QRectF box(rect);
-    const QPainterPath outline = shape(box, 4, true, true, !openLeft, !openRight);
-    const QColor fill = dark ? look.color.darker(112) : look.color;
+    const QPainterPath outline = shape(QRectF(rect), 4, true, true, !openLeft, !openRight);
     if (look.ghost)
         painter.fillPath(outline.translated(0, 2), colors.shadow);
     painter.fillPath(outline, fill);
     if (look.selected)
-        paintRing(painter, outline, colors.accent);
-    const QFont font = titleFont(baseFont);
-    const QFontMetrics metrics(font);
+        paintRing(painter, shape(QRectF(rect).adjusted(1, 1, -1, -1), 3, true, true, !openLeft, !openRight),
+                  blend(fill, contrastText(full), alpha));
     const int left = rect.left() + 6;
     const int width = rect.right() - 5 - left;
     if (width > 6) {
-        painter.setFont(font);
-        painter.setPen(contrastText(fill));
+        painter.setFont(fonts.title);
+        painter.setPen(blend(fill, contrastText(full), alpha));
         painter.drawText(QRect(left, rect.top(), width, rect.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                         metrics.elidedText(text, Qt::ElideRight, width));
+                         fonts.titleMetrics.elidedText(text, Qt::ElideRight, width));
     }
     painter.restore();
 }

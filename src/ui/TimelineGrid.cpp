@@ -244,9 +244,12 @@ void TimelineGrid::paintPieces(QPainter &painter, const QRect &exposed) const
     const TimelineLayout &layout = m_context->layout;
     const ThemeManager::Colors &colors = m_context->colors();
     const bool dark = m_context->isDark();
-    const QDateTime now = Clock::nowLocal();
+    const EventBlockPainter::Fonts fonts(font());
+    const qint64 now = Clock::nowUtc().toMSecsSinceEpoch();
     const bool moving = m_drag.kind == DragKind::Move || m_drag.kind == DragKind::Resize;
     const qsizetype draggedIndex = moving ? layout.pieces.at(m_drag.piece).index : -1;
+    const int today = m_context->todayIndex();
+    const QColor todaySurface = EventBlockPainter::composite(colors.surface, colors.todayBackground);
     painter.setClipRect(QRect(m_context->gutter, 0, m_context->columnsWidth, height()));
     for (qsizetype i = 0; i < layout.pieces.size(); ++i) {
         const QRect box = pieceRect(i);
@@ -254,23 +257,25 @@ void TimelineGrid::paintPieces(QPainter &painter, const QRect &exposed) const
             continue;
         const TimelineLayout::TimedPiece &piece = layout.pieces.at(i);
         const Event &occurrence = layout.occurrence(piece.index);
+        const TimelineLayout::Visual &visual = layout.visual(piece.index);
         EventBlockPainter::Look look;
-        look.color = m_context->cache->colorOf(occurrence);
-        look.dimmed = layout.isDimmed(piece.index);
+        look.color = visual.color;
+        look.dimmed = visual.dimmed;
         look.selected = m_context->isSelected(occurrence);
-        look.past = occurrence.end_time ? *occurrence.end_time <= now : occurrence.start_time <= now;
-        const QDateTime start = occurrence.start_time.toLocalTime();
-        const QDateTime end = occurrence.end_time ? occurrence.end_time->toLocalTime() : start;
-        const EventBlockPainter::Texts texts{
-            occurrence.title,
-            TimelineMath::rangeText(start.time(), end.time(), m_context->use24Hour, start.date() == end.date()),
-            occurrence.location};
+        look.past = visual.endMSecs <= now;
         // The event being dragged stays faintly in place while its preview follows the pointer.
-        painter.setOpacity(piece.index == draggedIndex ? 0.35 : 1.0);
-        EventBlockPainter::paintTimed(painter, box, texts, look, colors, dark, font(), piece.startsHere, piece.endsHere,
+        look.fade = piece.index == draggedIndex ? 0.35 : 1.0;
+        if (piece.day == today)
+            look.background = todaySurface;
+        EventBlockPainter::Texts texts;
+        if (EventBlockPainter::hasRoomForText(box)) {
+            texts.title = occurrence.title;
+            texts.time = TimelineMath::rangeText(visual.start, visual.end, m_context->use24Hour, visual.sameDay);
+            texts.location = occurrence.location;
+        }
+        EventBlockPainter::paintTimed(painter, box, texts, look, colors, dark, fonts, piece.startsHere, piece.endsHere,
                                       m_visibleTop + 2);
     }
-    painter.setOpacity(1.0);
     painter.setClipping(false);
 }
 
@@ -304,13 +309,13 @@ void TimelineGrid::paintDrag(QPainter &painter) const
                              QFontMetrics(painter.font()).elidedText(time, Qt::ElideRight, box.width() - 12));
             continue;
         }
-        const Event &occurrence = layout.occurrence(layout.pieces.at(m_drag.piece).index);
+        const qsizetype index = layout.pieces.at(m_drag.piece).index;
         EventBlockPainter::Look look;
-        look.color = m_context->cache->colorOf(occurrence);
+        look.color = layout.visual(index).color;
         look.ghost = true;
-        EventBlockPainter::paintTimed(painter, box, {occurrence.title, time, QString()}, look, colors,
-                                      m_context->isDark(), font(), day * kMinutesPerDay <= start,
-                                      end <= (day + 1) * kMinutesPerDay);
+        EventBlockPainter::paintTimed(painter, box, {layout.occurrence(index).title, time, QString()}, look, colors,
+                                      m_context->isDark(), EventBlockPainter::Fonts(font()),
+                                      day * kMinutesPerDay <= start, end <= (day + 1) * kMinutesPerDay);
     }
     painter.restore();
 }

@@ -20,6 +20,13 @@ int minuteOfDay(const QDateTime &local)
     return local.time().hour() * 60 + local.time().minute();
 }
 
+// The date of the instant `seconds` before `time`, for the last day an end closes (time arithmetic
+// on the wall clock, without another zone conversion).
+QDate dateBefore(const QDateTime &time, int seconds)
+{
+    return time.time().msecsSinceStartOfDay() < seconds * 1000 ? time.date().addDays(-1) : time.date();
+}
+
 } // namespace
 
 bool TimelineLayout::isAllDayItem(const Event &occurrence)
@@ -28,7 +35,7 @@ bool TimelineLayout::isAllDayItem(const Event &occurrence)
 }
 
 TimelineLayout TimelineLayout::build(const std::shared_ptr<const SpanData> &span, const QDate &firstDay, int dayCount,
-                                     int minimumMinutes)
+                                     int minimumMinutes, const SpanCache *cache)
 {
     TimelineLayout layout;
     layout.span = span;
@@ -40,17 +47,29 @@ TimelineLayout TimelineLayout::build(const std::shared_ptr<const SpanData> &span
     QList<QList<TimedPiece>> perDay(dayCount);
     QList<EventLayout::DayRangeItem> ranges;
     const QList<Event> &occurrences = span->contents.occurrences;
+    layout.visuals.resize(occurrences.size());
     for (qsizetype index = 0; index < occurrences.size(); ++index) {
         const Event &occurrence = occurrences.at(index);
         if (!occurrence.start_time.isValid())
             continue;
         const QDateTime end = endOf(occurrence);
+        // A conversion to local time may make the C library consult the zone file (glibc does
+        // when TZ is unset), so each end is converted once, here, and never while painting.
+        const QDateTime localStart = occurrence.start_time.toLocalTime();
+        const QDateTime localEnd = end.toLocalTime();
+        Visual &visual = layout.visuals[index];
+        visual.color = cache ? cache->colorOf(occurrence) : QColor();
+        visual.dimmed = span->contents.dimmedIds.contains(occurrence.id);
+        visual.start = localStart.time();
+        visual.end = localEnd.time();
+        visual.sameDay = localStart.date() == localEnd.date();
+        visual.endMSecs = end.toMSecsSinceEpoch();
         if (isAllDayItem(occurrence)) {
             // All-day dates are the stored dates as they stand, never shifted into the local zone.
-            const QDateTime start = occurrence.is_all_day ? occurrence.start_time : occurrence.start_time.toLocalTime();
-            const QDateTime last = occurrence.is_all_day ? end : end.toLocalTime();
+            const QDateTime start = occurrence.is_all_day ? occurrence.start_time : localStart;
+            const QDateTime last = occurrence.is_all_day ? end : localEnd;
             const int first = int(firstDay.daysTo(start.date()));
-            const int lastDay = end > occurrence.start_time ? int(firstDay.daysTo(last.addSecs(-1).date())) : first;
+            const int lastDay = end > occurrence.start_time ? int(firstDay.daysTo(dateBefore(last, 1))) : first;
             if (lastDay < 0 || first >= dayCount)
                 continue;
             Bar bar;
@@ -63,11 +82,9 @@ TimelineLayout TimelineLayout::build(const std::shared_ptr<const SpanData> &span
             ranges.append({bar.first, bar.last});
             continue;
         }
-        const QDateTime localStart = occurrence.start_time.toLocalTime();
-        const QDateTime localEnd = end.toLocalTime();
         const int startDay = int(firstDay.daysTo(localStart.date()));
         // An end at midnight closes the previous day; it does not reach into the next one.
-        const int endDay = end > occurrence.start_time ? int(firstDay.daysTo(localEnd.addSecs(-60).date())) : startDay;
+        const int endDay = end > occurrence.start_time ? int(firstDay.daysTo(dateBefore(localEnd, 60))) : startDay;
         for (int day = std::max(startDay, 0); day <= std::min(endDay, dayCount - 1); ++day) {
             TimedPiece piece;
             piece.index = index;

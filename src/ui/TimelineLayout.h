@@ -5,8 +5,10 @@
 #include "ui/EventLayout.h"
 #include "ui/SpanCache.h"
 
+#include <QColor>
 #include <QDate>
 #include <QList>
+#include <QTime>
 
 #include <memory>
 
@@ -39,7 +41,20 @@ struct TimelineLayout
         bool continuesAfter = false; // it goes on after the last day shown
     };
 
+    // What painting needs of an occurrence, worked out once: its colour, its dimming, its local
+    // wall-clock times and the instant it ends (for fading past events).
+    struct Visual
+    {
+        QColor color;
+        bool dimmed = false;
+        QTime start; // local
+        QTime end; // local
+        bool sameDay = true; // start and end on the same local date
+        qint64 endMSecs = 0; // since the epoch
+    };
+
     std::shared_ptr<const SpanData> span;
+    QList<Visual> visuals; // parallel to span->contents.occurrences
     QDate firstDay;
     int dayCount = 0;
     QList<TimedPiece> pieces; // by day, then by start
@@ -48,14 +63,16 @@ struct TimelineLayout
 
     // Lays out `span` (shown from firstDay over dayCount days). Occurrences shorter than
     // `minimumMinutes` are laid out as if they lasted that long, so that pieces drawn at a
-    // minimum height do not cover each other.
+    // minimum height do not cover each other. Colours come from `cache` (the theme's accent
+    // when there is none).
     static TimelineLayout build(const std::shared_ptr<const SpanData> &span, const QDate &firstDay, int dayCount,
-                                int minimumMinutes);
+                                int minimumMinutes, const SpanCache *cache = nullptr);
     // True for what goes to the all-day strip: all-day events and those lasting a day or more.
     static bool isAllDayItem(const Event &occurrence);
 
     const Event &occurrence(qsizetype index) const { return span->contents.occurrences.at(index); }
-    bool isDimmed(qsizetype index) const { return span && span->contents.dimmedIds.contains(occurrence(index).id); }
+    const Visual &visual(qsizetype index) const { return visuals.at(index); }
+    bool isDimmed(qsizetype index) const { return visuals.at(index).dimmed; }
     // The number of bars on day `day` in lanes at or beyond `fromLane`.
     int barsFrom(int day, int fromLane) const;
 };

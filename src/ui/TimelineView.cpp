@@ -17,6 +17,7 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -31,6 +32,8 @@ const QString kWorkdayEndKey = QStringLiteral("ui/workdayEnd");
 const QString kWeekNumbersKey = QStringLiteral("ui/showWeekNumbers");
 
 constexpr int kMaximumDays = 21;
+// Layouts kept for spans seen lately or likely next (the neighbours), so that a step paints at once.
+constexpr int kCachedLayouts = 6;
 
 } // namespace
 
@@ -45,6 +48,10 @@ public:
     void reload();
     // Lays the current span out again (the zoom changed the minimum block height).
     void relayout();
+    // The layout of a span at the current zoom, from the layouts kept when possible.
+    TimelineLayout layoutFor(const std::shared_ptr<const SpanData> &span, const QDate &first, int days);
+    // Lays out the spans before and after the one shown while the user looks at it.
+    void prepareNeighbours();
     void updateParts();
     void publishHiddenCount();
     void applyHourHeight(int pixels);
@@ -71,6 +78,14 @@ public:
     bool applyingScroll = false;
     std::optional<int> zoomAnchor; // viewport position to hold still during the next zoom
     QDate shownToday;
+    struct KeptLayout
+    {
+        std::shared_ptr<const SpanData> span;
+        int minimumMinutes = 0;
+        TimelineLayout layout;
+    };
+    QList<KeptLayout> keptLayouts; // most recently used last
+    QTimer neighbourTimer;
 };
 
 TimelineView::Private::Private(TimelineView *view, AppState *state, SpanCache *spanCache, EventEditor *eventEditor)
@@ -120,17 +135,47 @@ void TimelineView::Private::reload()
     std::shared_ptr<const SpanData> span;
     if (firstDay.isValid())
         span = cache->span(firstDay, dayCount);
-    const int minimum = TimelineMath::minutesForPixels(TimelineGrid::kMinimumBlockHeight, context.hourHeight);
-    context.layout = TimelineLayout::build(span, firstDay, dayCount, minimum);
+    context.layout = layoutFor(span, firstDay, dayCount);
     updateParts();
     publishHiddenCount();
+    if (q->isVisible())
+        neighbourTimer.start();
 }
 
 void TimelineView::Private::relayout()
 {
-    const int minimum = TimelineMath::minutesForPixels(TimelineGrid::kMinimumBlockHeight, context.hourHeight);
-    context.layout = TimelineLayout::build(context.layout.span, firstDay, dayCount, minimum);
+    context.layout = layoutFor(context.layout.span, firstDay, dayCount);
     updateParts();
+}
+
+TimelineLayout TimelineView::Private::layoutFor(const std::shared_ptr<const SpanData> &span, const QDate &first,
+                                                int days)
+{
+    const int minimum = TimelineMath::minutesForPixels(TimelineGrid::kMinimumBlockHeight, context.hourHeight);
+    if (!span)
+        return TimelineLayout::build(span, first, days, minimum, cache);
+    for (qsizetype i = 0; i < keptLayouts.size(); ++i) {
+        if (keptLayouts.at(i).span == span && keptLayouts.at(i).minimumMinutes == minimum) {
+            keptLayouts.move(i, keptLayouts.size() - 1);
+            return keptLayouts.constLast().layout;
+        }
+    }
+    keptLayouts.append({span, minimum, TimelineLayout::build(span, first, days, minimum, cache)});
+    while (keptLayouts.size() > kCachedLayouts)
+        keptLayouts.removeFirst();
+    return keptLayouts.constLast().layout;
+}
+
+void TimelineView::Private::prepareNeighbours()
+{
+    if (!q->isVisible() || !firstDay.isValid())
+        return;
+    for (const int direction : {1, -1}) {
+        const QDate first = firstDay.addDays(direction * dayCount);
+        layoutFor(cache->span(first, dayCount), first, dayCount);
+    }
+    // The one on screen stays the most recent.
+    layoutFor(context.layout.span, firstDay, dayCount);
 }
 
 void TimelineView::Private::updateParts()
@@ -297,8 +342,17 @@ TimelineView::TimelineView(AppState *appState, SpanCache *cache, EventEditor *ed
     });
     connect(bar, &QScrollBar::rangeChanged, this, [this] { d->applyTopMinute(); });
 
-    connect(cache, &SpanCache::invalidated, this, [this] { d->reload(); });
-    connect(appState->theme(), &ThemeManager::themeChanged, this, [this] { d->updateParts(); });
+    d->neighbourTimer.setSingleShot(true);
+    d->neighbourTimer.setInterval(0);
+    connect(&d->neighbourTimer, &QTimer::timeout, this, [this] { d->prepareNeighbours(); });
+    connect(cache, &SpanCache::invalidated, this, [this] {
+        d->keptLayouts.clear();
+        d->reload();
+    });
+    connect(appState->theme(), &ThemeManager::themeChanged, this, [this] {
+        d->keptLayouts.clear(); // colours may come from the accent
+        d->relayout();
+    });
     connect(appState->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
         if (key != kTimeFormatKey && key != kWorkdayStartKey && key != kWorkdayEndKey && key != kWeekNumbersKey)
             return;
