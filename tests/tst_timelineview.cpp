@@ -91,6 +91,7 @@ private slots:
     void gestureChangesEventWithUndo();
     void shortDragIsAClick();
     void escapeCancelsDrag();
+    void dragSurvivesNewData();
     void readOnlyEventDoesNotMove();
     void seriesDragAsksForScope();
     void allDayBarMovesByDays();
@@ -108,6 +109,7 @@ private slots:
     void zoomFromElsewhereResizesGrid();
     void currentTimeLineFollowsClock();
     void headerClickActivatesDay();
+    void keyboardWalksThroughEvents();
 
 private:
     Event add(const QString &title, const QDateTime &start, const QDateTime &end, bool allDay = false,
@@ -396,6 +398,29 @@ void TestTimelineView::escapeCancelsDrag()
     sendMouse(m_grid, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     QCOMPARE(m_state->events()->getById(created.id)->start_time, at(10, 14));
     QCOMPARE(m_state->undoStack()->count(), 0);
+}
+
+void TestTimelineView::dragSurvivesNewData()
+{
+    const Event call = add(QStringLiteral("Call"), at(10, 14), at(10, 15));
+    settle();
+    const QPoint from = toGrid(itemsOf(QStringLiteral("Call")).first().rect.center());
+    const QPoint to = from + QPoint(0, m_state->hourHeight());
+    sendMouse(m_grid, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(m_grid, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    QVERIFY(m_grid->isDragging());
+    // A sync lands mid-drag: an earlier event now comes first in the layout.
+    add(QStringLiteral("Early"), at(10, 8), at(10, 9));
+    settle();
+    QVERIFY(m_grid->isDragging());
+    sendMouse(m_grid, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(m_state->events()->getById(call.id)->start_time, at(10, 15));
+    const QList<Event> stored = m_state->events()->getByCalendar(AppState::kLocalCalendarId);
+    QCOMPARE(stored.size(), 2);
+    for (const Event &event : stored) {
+        if (event.title == QStringLiteral("Early"))
+            QCOMPARE(event.start_time, at(10, 8));
+    }
 }
 
 void TestTimelineView::readOnlyEventDoesNotMove()
@@ -702,6 +727,40 @@ void TestTimelineView::headerClickActivatesDay()
     click(header, header->dayRect(4).center());
     QCOMPARE(activated.count(), 1);
     QCOMPARE(activated.first().first().toDate(), QDate(2024, 1, 12));
+}
+
+void TestTimelineView::keyboardWalksThroughEvents()
+{
+    const Event holiday = add(QStringLiteral("Holiday"), QDateTime(QDate(2024, 1, 8), QTime(0, 0), QTimeZone::utc()),
+                              QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()), true);
+    const Event design = add(QStringLiteral("Design"), at(9, 10), at(9, 11));
+    const Event review = add(QStringLiteral("Review"), at(10, 20), at(10, 21));
+    settle();
+    m_view->scrollToTime(QTime(8, 0));
+    m_grid->setFocus();
+    // All-day bars first, then the timed events in the order of the days.
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), holiday.id);
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), design.id);
+    QScrollBar *bar = m_view->findChild<QScrollArea *>()->verticalScrollBar();
+    const int before = bar->value();
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), review.id);
+    QVERIFY(bar->value() > before); // scrolled to bring 20:00 into view
+    QTest::keyClick(m_grid, Qt::Key_Backtab);
+    QCOMPARE(m_state->selectedEventId(), design.id);
+
+    QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
+    QTest::keyClick(m_grid, Qt::Key_Return);
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(activated.first().first().value<Event>().id, design.id);
+
+    const int top = bar->value();
+    QTest::keyClick(m_grid, Qt::Key_Down);
+    QCOMPARE(bar->value(), top + m_state->hourHeight() / 2);
+    QTest::keyClick(m_grid, Qt::Key_Up);
+    QCOMPARE(bar->value(), top);
 }
 
 QTEST_MAIN(TestTimelineView)

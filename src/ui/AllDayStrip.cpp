@@ -62,8 +62,23 @@ int AllDayStrip::contentHeight() const
 
 void AllDayStrip::relayout()
 {
-    if (m_drag.committed || (m_drag.bar >= m_context->layout.bars.size()))
+    if (m_drag.committed) {
         m_drag = Drag();
+    } else if (m_drag.bar >= 0) {
+        // New data arrived under a drag: follow the same occurrence, or give up when it has gone.
+        const TimelineLayout &layout = m_context->layout;
+        qsizetype found = -1;
+        for (qsizetype i = 0; i < layout.bars.size() && found < 0; ++i) {
+            const Event &occurrence = layout.occurrence(layout.bars.at(i).index);
+            if (occurrence.id == m_drag.id && occurrence.recurrence_id == m_drag.recurrenceId)
+                found = i;
+        }
+        m_drag.bar = found;
+        if (found < 0) {
+            m_drag = Drag();
+            unsetCursor();
+        }
+    }
     const int height = std::min(contentHeight(), std::max(m_maximumHeight, laneHeight() * 2));
     m_scroll = std::clamp(m_scroll, 0, std::max(0, contentHeight() - height));
     setFixedHeight(height);
@@ -245,6 +260,11 @@ void AllDayStrip::mousePressEvent(QMouseEvent *event)
     m_drag.pressed = true;
     m_drag.pressPos = pos;
     m_drag.bar = barAt(pos);
+    if (m_drag.bar >= 0) {
+        const Event &occurrence = m_context->layout.occurrence(m_context->layout.bars.at(m_drag.bar).index);
+        m_drag.id = occurrence.id;
+        m_drag.recurrenceId = occurrence.recurrence_id;
+    }
     m_drag.pressDay = m_context->dayAt(pos.x());
 }
 

@@ -58,6 +58,8 @@ private:
         bool active = false; // moved past the click distance with an editable bar
         bool committed = false; // handed to the editor; the preview stays until the next layout
         qsizetype bar = -1;
+        QString id; // the occurrence pressed, found again when the layout changes under the drag
+        QString recurrenceId;
         QPoint pressPos;
         int pressDay = 0;
         int dayDelta = 0;

@@ -59,8 +59,24 @@ void TimelineGrid::scheduleNowTick()
 
 void TimelineGrid::relayout()
 {
-    if (m_drag.committed || m_drag.piece >= m_context->layout.pieces.size())
+    if (m_drag.committed) {
         m_drag = Drag();
+    } else if (m_drag.piece >= 0) {
+        // New data arrived under a drag: follow the same occurrence, or give up when it has gone.
+        const TimelineLayout &layout = m_context->layout;
+        qsizetype found = -1;
+        for (qsizetype i = 0; i < layout.pieces.size() && found < 0; ++i) {
+            const Event &occurrence = layout.occurrence(layout.pieces.at(i).index);
+            if (occurrence.id == m_drag.id && occurrence.recurrence_id == m_drag.recurrenceId
+                && (layout.pieces.at(i).endsHere || !m_drag.onHandle))
+                found = i;
+        }
+        m_drag.piece = found;
+        if (found < 0) {
+            m_drag = Drag();
+            unsetCursor();
+        }
+    }
     setFixedHeight(24 * m_context->hourHeight + 1);
     update();
 }
@@ -351,7 +367,7 @@ void TimelineGrid::paintNowLine(QPainter &painter) const
 
 void TimelineGrid::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || m_drag.committed)
+    if (event->button() != Qt::LeftButton)
         return;
     setFocus(Qt::MouseFocusReason);
     const QPoint pos = event->position().toPoint();
@@ -362,6 +378,11 @@ void TimelineGrid::mousePressEvent(QMouseEvent *event)
     m_drag.pressPos = pos;
     m_drag.piece = pieceAt(pos);
     m_drag.onHandle = isOnHandle(m_drag.piece, pos);
+    if (m_drag.piece >= 0) {
+        const Event &occurrence = m_context->layout.occurrence(m_context->layout.pieces.at(m_drag.piece).index);
+        m_drag.id = occurrence.id;
+        m_drag.recurrenceId = occurrence.recurrence_id;
+    }
     const int day = m_drag.piece >= 0 && m_drag.onHandle ? m_context->layout.pieces.at(m_drag.piece).day : -1;
     m_drag.pressMinute = gridMinuteAt(pos, day);
     m_drag.currentMinute = m_drag.pressMinute;

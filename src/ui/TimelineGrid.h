@@ -71,6 +71,8 @@ private:
         DragKind kind = DragKind::None;
         bool committed = false; // handed to the editor; the preview stays until the next layout
         qsizetype piece = -1; // the piece pressed, -1 on free time
+        QString id; // the occurrence pressed, found again when the layout changes under the drag
+        QString recurrenceId;
         bool onHandle = false;
         QPoint pressPos;
         int pressMinute = 0; // grid minutes
