@@ -6,7 +6,13 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTimeZone>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -58,6 +64,7 @@ private slots:
     void timesAndZones_data();
     void timesAndZones();
     void recordWithoutTimestampsIsStampedOnInsert();
+    void zoneNameThatIsAPathIsNeverOpened();
     void rangeSemantics_data();
     void rangeSemantics();
     void childRowsOfOneEvent();
@@ -77,6 +84,7 @@ private slots:
     void search();
     void changeSignalIsCoalesced();
     void failedChangeSendsNoSignal();
+    void repositoryOutlivesTheDatabase();
 
 private:
     StoreFixture m_store;
@@ -225,6 +233,27 @@ void TestEventRepository::recordWithoutTimestampsIsStampedOnInsert()
     QCOMPARE(back.created, Clock::nowUtc());
     QCOMPARE(back.last_modified, Clock::nowUtc());
     QCOMPARE(back.sync_status, QStringLiteral("synced"));
+}
+
+void TestEventRepository::zoneNameThatIsAPathIsNeverOpened()
+{
+#ifdef Q_OS_UNIX
+    // A zone name from someone else's calendar that leads out of the zone folder to a pipe nobody
+    // writes to: opening it would block the reading of every span for good.
+    QTemporaryDir dir;
+    const QString fifo = dir.filePath(QStringLiteral("zone"));
+    QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    const QDateTime start = utc(QStringLiteral("2025-03-14T09:00:00"));
+    Event event = makeEvent(QStringLiteral("z"), QStringLiteral("cal-a"), start, start.addSecs(3600));
+    event.timezone = QStringLiteral("../../../../../../../..") + fifo;
+    QVERIFY(m_repo->insert(event));
+    const std::optional<Event> read = m_repo->getById(event.id);
+    QVERIFY(read);
+    QCOMPARE(read->start_time.toUTC(), event.start_time.toUTC());
+    QCOMPARE(read->timezone, event.timezone);
+#else
+    QSKIP("named pipes are a Unix matter");
+#endif
 }
 
 void TestEventRepository::rangeSemantics_data()
@@ -693,5 +722,19 @@ void TestEventRepository::failedChangeSendsNoSignal()
     QVERIFY(!spy.wait(300));
 }
 
+void TestEventRepository::repositoryOutlivesTheDatabase()
+{
+    // The application state owns the database as a member and the repositories as children, so
+    // the database goes first; statements kept for reuse must not outlive it badly.
+    const QDateTime start = utc(QStringLiteral("2025-03-12T10:00:00"));
+    QVERIFY(m_repo->insert(makeEvent(QStringLiteral("e"), QStringLiteral("cal-a"), start, std::nullopt)));
+    QCOMPARE(m_repo->getInRange(start.addDays(-1), start.addDays(1)).size(), 1);
+    QVERIFY(m_repo->getById(QStringLiteral("e")));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("still in use")));
+    m_store.close();
+    m_repo.reset();
+}
+
 QTEST_GUILESS_MAIN(TestEventRepository)
 #include "tst_eventrepository.moc"
+

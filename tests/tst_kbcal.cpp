@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/Cli.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -13,31 +14,7 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments, const QByteArray &input = QByteArray())
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.setData(input);
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 } // namespace
 

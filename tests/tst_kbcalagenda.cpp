@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/Cli.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -19,30 +20,7 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments)
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 QDateTime berlin(int day, int hour, int minute = 0)
 {

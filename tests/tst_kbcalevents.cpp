@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // kbcal's event and task commands, run in-process against buffers: ics expand, import, export,
 // tasks, task complete/reopen and sample-data.
-#include "cli/Cli.h"
 #include "ical/ICal.h"
 #include "storage/Clock.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -18,33 +19,7 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-
-    QJsonDocument json() const { return QJsonDocument::fromJson(out.toUtf8()); }
-};
-
-Result runKbcal(const QStringList &arguments, const QByteArray &input = QByteArray())
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.setData(input);
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 QString fixture(const QString &name)
 {
@@ -106,6 +81,9 @@ void TestKbcalEvents::init()
                                "('home', 'acc', 'local://calendar/home', 'Home', 20), "
                                "('work', 'acc', 'local://calendar/work', 'Work', 10)")));
     QVERIFY(sql(QStringLiteral("UPDATE calendars SET is_read_only = 1 WHERE id = 'feed'")));
+    // These calendars stand in for the on-device one that the first start seeded.
+    QVERIFY(sql(QStringLiteral("DELETE FROM calendars WHERE id = 'kettlebrook-personal-default'")));
+    QVERIFY(sql(QStringLiteral("DELETE FROM accounts WHERE id = 'personal-local-account'")));
 }
 
 void TestKbcalEvents::cleanup()

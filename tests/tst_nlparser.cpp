@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/Cli.h"
 #include "ical/NLParser.h"
 #include "storage/Clock.h"
+
+#include "support/KbcalRunner.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -33,30 +35,7 @@ const QDateTime kMonday = utc(2024, 3, 18, 9, 0);
 
 constexpr int kNoMatch = -2;
 
-struct Result
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-Result runKbcal(const QStringList &arguments)
-{
-    QString out;
-    QString err;
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    QBuffer in;
-    in.open(QIODevice::ReadOnly);
-    Cli cli(outStream, errStream, &in, false);
-    Result result;
-    result.status = cli.run(arguments);
-    outStream.flush();
-    errStream.flush();
-    result.out = out;
-    result.err = err;
-    return result;
-}
+using Result = KbcalResult;
 
 } // namespace
 
@@ -100,6 +79,7 @@ private slots:
     void kbcalDefaultsToTheClock();
     void kbcalErrors_data();
     void kbcalErrors();
+    void kbcalStoresTheEvent();
     void kbcalDryRunOpensNothing();
 };
 
@@ -855,9 +835,6 @@ void TestNLParser::kbcalErrors_data()
                                      << "kbcal: \"jan 40\" is not a valid date";
     QTest::newRow("impossible time") << QStringList{"Meet at 9:75", "--dry-run"} << 1
                                      << "kbcal: \"at 9:75\" is not a valid time";
-    QTest::newRow("storing is not there yet")
-        << QStringList{"Standup", "--now", "2024-03-15T14:10:00Z"} << 1
-        << "kbcal: add without --dry-run needs event storage, which this build does not have yet";
 }
 
 void TestNLParser::kbcalErrors()
@@ -876,6 +853,35 @@ void TestNLParser::kbcalErrors()
     else
         QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
     QVERIFY(!QFileInfo::exists(dataDir));
+}
+
+void TestNLParser::kbcalStoresTheEvent()
+{
+    QTemporaryDir dir;
+    const QString dataDir = dir.filePath(QStringLiteral("data"));
+    const Result result = runKbcal({"--data-dir", dataDir, "add", "Lunch with Sam", "tomorrow", "at", "12:30", "--now",
+                                    "2024-03-15T14:10:00+01:00", "--json"});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err, QString());
+    const QJsonObject event = QJsonDocument::fromJson(result.out.toUtf8()).object();
+    QCOMPARE(event.value(QStringLiteral("title")).toString(), QStringLiteral("Lunch with Sam"));
+    QCOMPARE(event.value(QStringLiteral("calendar_id")).toString(), QStringLiteral("kettlebrook-personal-default"));
+    QCOMPARE(event.value(QStringLiteral("sync_status")).toString(), QStringLiteral("pending"));
+    QCOMPARE(event.value(QStringLiteral("id")).toString(), event.value(QStringLiteral("uid")).toString());
+    QVERIFY(event.value(QStringLiteral("raw_icalendar")).toString().contains(QStringLiteral("SUMMARY:Lunch with Sam\r\n")));
+
+    // It is stored: the agenda of that day lists it.
+    const Result agenda = runKbcal({"--data-dir", dataDir, "agenda", "--from", "2024-03-16", "--days", "1", "--json"});
+    QCOMPARE(agenda.status, 0);
+    const QJsonArray occurrences
+        = QJsonDocument::fromJson(agenda.out.toUtf8()).object().value(QStringLiteral("occurrences")).toArray();
+    QCOMPARE(occurrences.size(), 1);
+    QCOMPARE(occurrences.first().toObject().value(QStringLiteral("id")), event.value(QStringLiteral("id")));
+
+    const Result unknown = runKbcal({"--data-dir", dataDir, "add", "Standup", "--calendar", "nope"});
+    QCOMPARE(unknown.status, 1);
+    QVERIFY2(unknown.err.startsWith(QStringLiteral("kbcal: ")), qPrintable(unknown.err));
+    QCOMPARE(unknown.err.count(QLatin1Char('\n')), 1);
 }
 
 void TestNLParser::kbcalDryRunOpensNothing()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StoreFixture.h"
 
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
 #include "storage/EventRepository.h"
 #include "storage/SampleData.h"
@@ -23,14 +25,17 @@ private slots:
     void eventTextFollowsTheTemplate();
     void tasks();
     void seedingTwiceAddsNothing();
+    void removedAccountIsNotSeededAgain();
     void removeDeletesEverything();
     void removeKeepsCalendarsHoldingUserEvents();
 
 private:
     int count(const QString &sql) const { return m_store.scalar(sql).toInt(); }
-    void seed() { seedSampleData(*m_store.database(), *m_events, *m_tasks); }
+    void seed() { seedSampleData(*m_accounts, *m_calendars, *m_events, *m_tasks); }
 
     StoreFixture m_store;
+    std::unique_ptr<AccountRepository> m_accounts;
+    std::unique_ptr<CalendarRepository> m_calendars;
     std::unique_ptr<EventRepository> m_events;
     std::unique_ptr<TaskRepository> m_tasks;
 };
@@ -38,6 +43,8 @@ private:
 void TestSampleData::init()
 {
     QVERIFY(m_store.open());
+    m_accounts = std::make_unique<AccountRepository>(m_store.database());
+    m_calendars = std::make_unique<CalendarRepository>(m_store.database());
     m_events = std::make_unique<EventRepository>(m_store.database());
     m_tasks = std::make_unique<TaskRepository>(m_store.database());
     // Wednesday 12 March 2025, 10:00 in Berlin.
@@ -46,6 +53,8 @@ void TestSampleData::init()
 
 void TestSampleData::cleanup()
 {
+    m_accounts.reset();
+    m_calendars.reset();
     m_events.reset();
     m_tasks.reset();
     m_store.close();
@@ -216,6 +225,17 @@ void TestSampleData::seedingTwiceAddsNothing()
     seed();
     QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM events WHERE id LIKE 'sample-event-%'")), 18);
     QCOMPARE(m_events->getById(QStringLiteral("sample-event-today-yoga"))->title, QStringLiteral("Renamed"));
+}
+
+void TestSampleData::removedAccountIsNotSeededAgain()
+{
+    seed();
+    // The user removed the account; its tombstone waits for configuration sync.
+    QVERIFY(m_accounts->remove(QStringLiteral("sample-account")));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    seed();
+    QVERIFY(!m_accounts->getById(QStringLiteral("sample-account")));
+    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM accounts WHERE id = 'sample-account'")), 1);
 }
 
 void TestSampleData::removeDeletesEverything()

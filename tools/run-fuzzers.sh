@@ -23,6 +23,9 @@ if [ ${#targets[@]} -eq 0 ]; then
 fi
 cmake --build "$build" --target "${targets[@]}"
 
+# Undefined behaviour must stop the run like a crash, or libFuzzer would not keep the input.
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-halt_on_error=1:print_stacktrace=1}
+
 status=0
 for t in "${targets[@]}"; do
     mkdir -p "$build/corpus/$t" "$build/artifacts/$t"

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AppState.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
 #include "cli/JsonRecords.h"
 #include "cli/TimeArgument.h"
 #include "ical/NLParser.h"
+#include "storage/CalendarChoice.h"
 #include "storage/Clock.h"
+#include "storage/EventRepository.h"
 #include "storage/StorageFormat.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
+#include <QLocale>
 
 namespace {
 
@@ -87,7 +91,28 @@ CommandSpec addCommand()
             printParse(context, NLParser::parse(line, now));
             return 0;
         }
-        return context.fail(tr("add without --dry-run needs event storage, which this build does not have yet"));
+        AppState *state = context.state();
+        if (!state)
+            return 1;
+        const CalendarChoice::Choice choice
+            = CalendarChoice::forNewEvents(*state->database(), context.parser().value(QStringLiteral("calendar")));
+        if (!choice.calendar)
+            return context.fail(choice.error);
+        const std::optional<Event> event = NLParser::eventFromLine(line, choice.calendar->id, now);
+        if (!event || !state->events()->insert(*event))
+            return context.fail(tr("the event could not be stored in %1").arg(choice.calendar->name));
+        const Event stored = state->events()->getById(event->id).value_or(*event);
+        if (context.json()) {
+            context.printJson(JsonRecords::toJson(stored));
+        } else {
+            const QLocale locale;
+            const QDateTime start = stored.start_time.toLocalTime();
+            const QString when = stored.is_all_day
+                ? locale.toString(start.date(), QStringLiteral("ddd yyyy-MM-dd"))
+                : locale.toString(start, QStringLiteral("ddd yyyy-MM-dd HH:mm"));
+            context.out() << tr("Added \"%1\" on %2 to %3").arg(stored.title, when, choice.calendar->name) << Qt::endl;
+        }
+        return 0;
     };
     return spec;
 }

@@ -2,6 +2,7 @@
 #include "cli/CommandContext.h"
 
 #include "app/AppEnvironment.h"
+#include "app/AppState.h"
 #include "cli/Cli.h"
 #include "cli/CommandSpec.h"
 #include "storage/Database.h"
@@ -39,35 +40,38 @@ QString CommandContext::dataDirectory() const
     return explicitDir;
 }
 
-Database *CommandContext::database()
+AppState *CommandContext::state()
 {
-    if (m_database)
-        return m_database.get();
-    if (m_databaseFailed)
+    if (m_state)
+        return m_state.get();
+    if (m_stateFailed)
         return nullptr;
-    m_databaseFailed = true;
+    m_stateFailed = true;
 
     const QString folder = dataDirectory();
     if (!QFileInfo(folder).isDir()) {
         fail(QCoreApplication::translate("kbcal", "cannot create the data folder %1").arg(folder));
         return nullptr;
     }
-    auto database = std::make_unique<Database>();
-    const QString path = folder + QStringLiteral("/calendar.db");
-    if (!database->open(path)) {
-        fail(QCoreApplication::translate("kbcal", "cannot open the calendar database in %1: %2")
-                 .arg(folder, database->lastError()));
+    auto state = std::make_unique<AppState>();
+    if (!state->initialize(folder + QStringLiteral("/calendar.db"))) {
+        Database *database = state->database();
+        const QString reason = database ? database->lastError() : QString();
+        if (!database || !database->isOpen())
+            fail(QCoreApplication::translate("kbcal", "cannot open the calendar database in %1: %2").arg(folder, reason));
+        else
+            fail(QCoreApplication::translate("kbcal", "cannot prepare the calendar database in %1: %2").arg(folder, reason));
         return nullptr;
     }
-    database->migrate();
-    if (!database->isUpToDate()) {
-        fail(QCoreApplication::translate("kbcal", "cannot prepare the calendar database in %1: %2")
-                 .arg(folder, database->lastError()));
-        return nullptr;
-    }
-    m_databaseFailed = false;
-    m_database = std::move(database);
-    return m_database.get();
+    m_stateFailed = false;
+    m_state = std::move(state);
+    return m_state.get();
+}
+
+Database *CommandContext::database()
+{
+    AppState *started = state();
+    return started ? started->database() : nullptr;
 }
 
 int CommandContext::fail(const QString &message)

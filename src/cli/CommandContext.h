@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class AppState;
 class Database;
 struct CommandSpec;
 
@@ -34,7 +35,11 @@ public:
 
     // The data folder: --data-dir, else CALENDAR_DATA_DIR, else the desktop program's default.
     QString dataDirectory() const;
-    // Opens and migrates the database on first use; null after printing an error line.
+    // Starts the calendar store on first use exactly as the desktop program does (database opened
+    // and migrated, the on-device calendar seeded when signed out); null after printing an error
+    // line.
+    AppState *state();
+    // The database of state(); null after printing an error line.
     Database *database();
 
     // Prints "kbcal: MESSAGE" on standard error and returns exit status 1.
@@ -51,6 +56,6 @@ private:
     QTextStream &m_err;
     QIODevice *m_in;
     bool m_progress;
-    std::unique_ptr<Database> m_database;
-    bool m_databaseFailed = false;
+    std::unique_ptr<AppState> m_state;
+    bool m_stateFailed = false;
 };

@@ -6,10 +6,18 @@ const QList<CommandSpec> &allCommands()
     static const QList<CommandSpec> commands = {
         initCommand(),
         icsParseCommand(),
+        icsExpandCommand(),
         addCommand(),
         agendaCommand(),
         calendarsCommand(),
         accountsCommand(),
+        importCommand(),
+        exportCommand(),
+        tasksCommand(),
+        taskCompleteCommand(),
+        taskReopenCommand(),
+        sampleDataAddCommand(),
+        sampleDataRemoveCommand(),
     };
     return commands;
 }

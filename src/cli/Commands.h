@@ -16,5 +16,8 @@ CommandSpec sampleDataAddCommand();
 CommandSpec sampleDataRemoveCommand();
 CommandSpec taskCompleteCommand();
 CommandSpec taskReopenCommand();
+CommandSpec tasksCommand();
+CommandSpec importCommand();
+CommandSpec exportCommand();
 CommandSpec calendarsCommand();
 CommandSpec accountsCommand();

@@ -33,6 +33,19 @@ QString occurrenceLine(const Event &event)
     return when + QLatin1String("  ") + event.title;
 }
 
+// The rows the calendar views' range query would return for the span: those that overlap it,
+// and every series master that starts before its end. The expansion relies on that choice.
+QList<Event> rowsForSpan(const QList<Event> &events, const QDateTime &from, const QDateTime &to)
+{
+    QList<Event> rows;
+    for (const Event &event : events) {
+        if (event.start_time.isValid() && event.start_time < to
+            && (!event.end_time || *event.end_time > from || !event.recurrence_rule.isEmpty()))
+            rows.append(event);
+    }
+    return rows;
+}
+
 } // namespace
 
 CommandSpec icsExpandCommand()
@@ -75,7 +88,8 @@ CommandSpec icsExpandCommand()
             text = file.readAll();
         }
 
-        const QList<Event> occurrences = Recurrence::expandEvents(ICal::parseEvents(QByteArrayView(text)), from, to);
+        const QList<Event> occurrences
+            = Recurrence::expandEvents(rowsForSpan(ICal::parseEvents(QByteArrayView(text)), from, to), from, to);
         if (context.json()) {
             context.printJson(QJsonObject{{QStringLiteral("occurrences"), JsonRecords::toJsonArray(occurrences)}});
         } else {

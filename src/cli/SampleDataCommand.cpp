@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/SampleData.h"
@@ -38,9 +40,11 @@ CommandSpec sampleDataAddCommand()
         Database *database = context.database();
         if (!database)
             return 1;
+        AccountRepository accounts(database);
+        CalendarRepository calendarRepository(database);
         EventRepository events(database);
         TaskRepository tasks(database);
-        seedSampleData(*database, events, tasks);
+        seedSampleData(accounts, calendarRepository, events, tasks);
         const int calendars = countRows(database,
                                         QStringLiteral("SELECT COUNT(*) FROM calendars WHERE id LIKE "
                                                        "'sample-cal-%'"));

@@ -34,16 +34,24 @@ struct ContentLine
     QList<std::pair<QString, QString>> parameters;
     QString value;
 
-    // The raw value of a parameter, or a null string when it is absent.
+    // The raw value of a parameter (name given upper-case), or a null string when it is absent; a
+    // parameter given as "NAME=" is present with an empty value. When a name repeats, the last one
+    // counts.
     QString parameter(QStringView name) const;
 };
 
-// Every VEVENT that carries a UID, in the order in which they stand. A byte order mark at the
-// start of the text is skipped. Folded lines are joined before the bytes are decoded, so a
-// character split by a fold comes back whole.
+// Every VEVENT that carries a UID, in the order in which they stand; each record's raw_icalendar
+// holds its unfolded lines inside the program's envelope. A byte order mark at the start of the
+// text is skipped. Folded lines are joined before the bytes are decoded, so a character split by
+// a fold comes back whole; invalid UTF-8 decodes to U+FFFD in the text fields and stays as it was
+// in raw_icalendar. Never fails: the worst text gives an empty list.
+//
+// The QString overloads read text.toUtf8(). Memory: besides the records (about 720 bytes each
+// plus their text) only a few small buffers; short repeated texts share one string.
 QList<Event> parseEvents(QByteArrayView utf8);
 QList<Event> parseEvents(const QString &text);
-// Every VTODO that carries a UID, in order.
+// Every VTODO that carries a UID, in order; raw_icalendar holds the lines from BEGIN:VTODO to
+// END:VTODO without an envelope.
 QList<Task> parseTasks(QByteArrayView utf8);
 QList<Task> parseTasks(const QString &text);
 // A QByteArray converts to both of the above; these pick the byte readers.
@@ -65,11 +73,14 @@ ContentLine parsePropertyLine(const QString &line);
 // Undoes text escaping: "\," "\;" "\n" "\N" "\\". Any other backslash stays as it is.
 QString unescapeText(const QString &text);
 // Reads a DATE or DATE-TIME value. Eight characters without "T" are a date at midnight UTC
-// (isDateOnly set); a trailing "Z" means UTC; otherwise a known TZID places the wall-clock time in
-// that zone, else the time is floating local time. Invalid when unreadable.
+// (isDateOnly set, also when the date is unreadable); a trailing "Z" means UTC; otherwise a known
+// TZID places the wall-clock time in that zone, else the time is floating local time. Only names
+// shaped like zone identifiers are looked up (see ZoneCache::hasZoneShape). Invalid when unreadable.
 QDateTime parseDateTime(const QString &value, const QList<std::pair<QString, QString>> &parameters,
                         bool *isDateOnly = nullptr);
-// Seconds of a DURATION value; 0 for an empty, negative or unreadable value.
+// Seconds of a DURATION value; 0 for an empty, negative or unreadable value. Hours, minutes and
+// seconds count only after "T" (before it "M" is a month of 30 days); sums too large for 64 bits
+// saturate.
 qint64 parseDurationSeconds(const QString &value);
 
 // The minimal calendar object for a new event: UID, SUMMARY, DTSTART and DTEND in UTC (the start

@@ -74,6 +74,7 @@ qsizetype textLength(QByteArrayView value, bool *hasT)
 
 LineParts splitLine(QByteArrayView line)
 {
+    // Deliberately the first colon splits the line, even one inside a quoted parameter value.
     LineParts parts;
     const char *begin = line.data();
     const auto *colon = static_cast<const char *>(line.isEmpty() ? nullptr : std::memchr(begin, ':', line.size()));
@@ -105,6 +106,10 @@ bool isAscii(QByteArrayView bytes)
 
 qsizetype upperAsciiName(QByteArrayView name, char *out, qsizetype capacity)
 {
+    // A character upper-cases to at least one character, so a name of more than `capacity`
+    // characters (four bytes each at most) cannot fit: no need to decode a huge one.
+    if (name.size() > capacity * 4)
+        return -1;
     if (isAscii(name)) {
         if (name.size() > capacity)
             return -1;
@@ -136,6 +141,7 @@ std::optional<QByteArrayView> parameter(QByteArrayView parameters, QByteArrayVie
         if (equals >= 1) {
             char upper[64];
             const qsizetype length = upperAsciiName(piece.first(equals), upper, sizeof upper);
+            // Deliberately the value as it stands, double quotes included.
             if (length == upperName.size() && std::memcmp(upper, upperName.data(), length) == 0)
                 found = piece.sliced(equals + 1);
         }

@@ -226,6 +226,7 @@ void readEventLine(Event &event, EventExtras &extras, QByteArrayView line, Conte
         break;
     case Property::Organizer: {
         QByteArrayView address = parts.value;
+        // Deliberately only a "mailto:" prefix (any letter case) is cut; other values stay whole.
         if (address.size() >= 7 && equalsIgnoringCase(address.first(7), "MAILTO:"))
             address = address.sliced(7);
         event.organizer_email = context.texts.sharedText(address);
@@ -340,10 +341,9 @@ void readTaskLine(Task &task, QByteArrayView line, Context &context)
             task.repeat_mode = QStringLiteral("fromCompletionDate");
         break;
     case Property::SortOrder: {
-        bool ok = false;
-        const int order = decode(parts.value).trimmed().toInt(&ok);
-        if (ok && order > 0)
-            task.sort_order = order;
+        const std::optional<qint32> order = integer(decode(parts.value).trimmed().toUtf8());
+        if (order && *order > 0)
+            task.sort_order = *order;
         break;
     }
     default:

@@ -21,6 +21,8 @@ class TextPool
 public:
     static constexpr qsizetype kMaxSharedLength = 96;
     static constexpr qsizetype kMaxSharedEntries = 8192;
+    // Values up to this size go through reused buffers; longer ones are decoded in place.
+    static constexpr qsizetype kScratchBytes = 64 * 1024;
 
     TextPool();
 
@@ -34,7 +36,8 @@ public:
 
 private:
     QStringView decoded(QByteArrayView utf8);
-    QByteArrayView unescapedBytes(QByteArrayView value);
+    QString decodedLarge(QByteArrayView utf8);
+    QByteArrayView unescapedSmall(QByteArrayView value);
     QString shared(QStringView text);
 
     QStringDecoder m_decoder;

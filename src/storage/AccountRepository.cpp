@@ -3,7 +3,7 @@
 
 #include "storage/Clock.h"
 #include "storage/Database.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 #include "storage/StorageFormat.h"
 
 #include <QHash>
@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 namespace {
 
@@ -62,7 +62,7 @@ QList<Account> AccountRepository::select(const QString &sql, const QVariantList 
     QList<Account> accounts;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, sql.arg(kColumns), values))
+    if (!SqlSupport::exec(query, sql.arg(kColumns), values))
         return accounts;
     while (query.next())
         accounts.append(fromRow(query));
@@ -82,7 +82,7 @@ QList<Account> AccountRepository::getAllIncludingDeleted() const
 std::optional<Account> AccountRepository::getById(const QString &id) const
 {
     const QList<Account> found
-        = select(QStringLiteral("SELECT %1 FROM accounts WHERE id = ? AND deleted_at IS NULL"), {text(id)});
+        = select(QStringLiteral("SELECT %1 FROM accounts WHERE id = ? AND deleted_at IS NULL"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -94,7 +94,7 @@ std::optional<Account> AccountRepository::findByServer(const QString &type, cons
     const QList<Account> found = select(
         QStringLiteral(
             "SELECT %1 FROM accounts WHERE type = ? AND server_url = ? AND username = ? AND deleted_at IS NULL"),
-        {text(type), text(serverUrl), text(username)});
+        {requiredText(type), requiredText(serverUrl), requiredText(username)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -104,22 +104,22 @@ bool AccountRepository::insert(const Account &account)
 {
     const QDateTime now = Clock::nowUtc();
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("INSERT INTO accounts (id, name, type, server_url, username, calendar_home_set, principal_url, "
                        "sync_interval_minutes, last_sync_time, last_sync_error, enabled, color, exclude_from_sync, "
                        "trusted_cert_sha256, pending_cert_sha256, created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, "
                        "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {text(account.id), text(account.name), text(account.type), text(account.server_url), text(account.username),
-         text(account.calendar_home_set), text(account.principal_url), account.sync_interval_minutes,
-         StorageFormat::dateTimeValue(account.last_sync_time), text(account.last_sync_error),
-         StorageFormat::boolValue(account.enabled), text(account.color),
-         StorageFormat::boolValue(account.exclude_from_sync), text(account.trusted_cert_sha256),
-         text(account.pending_cert_sha256),
+        {requiredText(account.id), requiredText(account.name), requiredText(account.type), requiredText(account.server_url), requiredText(account.username),
+         requiredText(account.calendar_home_set), requiredText(account.principal_url), account.sync_interval_minutes,
+         StorageFormat::dateTimeValue(account.last_sync_time), requiredText(account.last_sync_error),
+         StorageFormat::boolValue(account.enabled), requiredText(account.color),
+         StorageFormat::boolValue(account.exclude_from_sync), requiredText(account.trusted_cert_sha256),
+         requiredText(account.pending_cert_sha256),
          StorageFormat::dateTimeValue(account.created_at.isValid() ? account.created_at : now),
          StorageFormat::dateTimeValue(account.updated_at.isValid() ? account.updated_at : now)});
     if (!ok) {
-        RepositorySql::logFailure("AccountRepository::insert failed:", query.lastError());
+        SqlSupport::logFailure("AccountRepository::insert failed:", query.lastError());
         return false;
     }
     emit accountsChanged();
@@ -129,20 +129,20 @@ bool AccountRepository::insert(const Account &account)
 bool AccountRepository::update(const Account &account)
 {
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("UPDATE accounts SET name = ?, type = ?, server_url = ?, username = ?, calendar_home_set = ?, "
                        "principal_url = ?, sync_interval_minutes = ?, last_sync_time = ?, last_sync_error = ?, "
                        "enabled = ?, color = ?, exclude_from_sync = ?, trusted_cert_sha256 = ?, "
                        "pending_cert_sha256 = ?, updated_at = ? WHERE id = ?"),
-        {text(account.name), text(account.type), text(account.server_url), text(account.username),
-         text(account.calendar_home_set), text(account.principal_url), account.sync_interval_minutes,
-         StorageFormat::dateTimeValue(account.last_sync_time), text(account.last_sync_error),
-         StorageFormat::boolValue(account.enabled), text(account.color),
-         StorageFormat::boolValue(account.exclude_from_sync), text(account.trusted_cert_sha256),
-         text(account.pending_cert_sha256), StorageFormat::dateTimeValue(Clock::nowUtc()), text(account.id)});
+        {requiredText(account.name), requiredText(account.type), requiredText(account.server_url), requiredText(account.username),
+         requiredText(account.calendar_home_set), requiredText(account.principal_url), account.sync_interval_minutes,
+         StorageFormat::dateTimeValue(account.last_sync_time), requiredText(account.last_sync_error),
+         StorageFormat::boolValue(account.enabled), requiredText(account.color),
+         StorageFormat::boolValue(account.exclude_from_sync), requiredText(account.trusted_cert_sha256),
+         requiredText(account.pending_cert_sha256), StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(account.id)});
     if (!ok) {
-        RepositorySql::logFailure("AccountRepository::update failed:", query.lastError());
+        SqlSupport::logFailure("AccountRepository::update failed:", query.lastError());
         return false;
     }
     emit accountsChanged();
@@ -153,9 +153,9 @@ bool AccountRepository::softDelete(const QString &id)
 {
     const QVariant now = StorageFormat::dateTimeValue(Clock::nowUtc());
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, QStringLiteral("UPDATE accounts SET deleted_at = ?, updated_at = ? WHERE id = ?"),
-                             {now, now, text(id)})) {
-        RepositorySql::logFailure("AccountRepository::remove failed:", query.lastError());
+    if (!SqlSupport::exec(query, QStringLiteral("UPDATE accounts SET deleted_at = ?, updated_at = ? WHERE id = ?"),
+                             {now, now, requiredText(id)})) {
+        SqlSupport::logFailure("AccountRepository::remove failed:", query.lastError());
         return false;
     }
     return true;
@@ -172,9 +172,9 @@ bool AccountRepository::remove(const QString &id)
 bool AccountRepository::reapTombstone(const QString &id)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, QStringLiteral("DELETE FROM accounts WHERE id = ? AND deleted_at IS NOT NULL"),
-                             {text(id)})) {
-        RepositorySql::logFailure("AccountRepository::reapTombstone failed:", query.lastError());
+    if (!SqlSupport::exec(query, QStringLiteral("DELETE FROM accounts WHERE id = ? AND deleted_at IS NOT NULL"),
+                             {requiredText(id)})) {
+        SqlSupport::logFailure("AccountRepository::reapTombstone failed:", query.lastError());
         return false;
     }
     emit accountsChanged();
@@ -185,7 +185,7 @@ bool AccountRepository::reorder(const QStringList &ids)
 {
     if (ids.isEmpty())
         return true;
-    if (!RepositorySql::reorder(m_database->connection(),
+    if (!SqlSupport::reorder(m_database->connection(),
                                 QStringLiteral("UPDATE accounts SET sort_order = ?, updated_at = ? WHERE id = ?"), ids))
         return false;
     emit accountsChanged();
@@ -225,8 +225,8 @@ int AccountRepository::dedupeCalDavAccounts()
                 return collapsed;
             QSqlQuery move(db);
             bool ok
-                = RepositorySql::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
-                                      {text(keeperId), text(duplicateId)});
+                = SqlSupport::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
+                                      {requiredText(keeperId), requiredText(duplicateId)});
             move.finish();
             ok = ok && softDelete(duplicateId);
             if (!ok || !db.commit()) {

@@ -4,13 +4,13 @@
 #include "storage/Clock.h"
 #include "storage/Database.h"
 #include "storage/LogCategories.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 #include "storage/StorageFormat.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 namespace {
 
@@ -59,7 +59,7 @@ QList<Calendar> CalendarRepository::select(const QString &sql, const QVariantLis
     QList<Calendar> calendars;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, sql.arg(kColumns), values))
+    if (!SqlSupport::exec(query, sql.arg(kColumns), values))
         return calendars;
     while (query.next())
         calendars.append(fromRow(query));
@@ -74,12 +74,12 @@ QList<Calendar> CalendarRepository::getAll() const
 QList<Calendar> CalendarRepository::getByAccount(const QString &accountId) const
 {
     return select(QStringLiteral("SELECT %1 FROM calendars WHERE account_id = ? ORDER BY sort_order, name"),
-                  {text(accountId)});
+                  {requiredText(accountId)});
 }
 
 std::optional<Calendar> CalendarRepository::getById(const QString &id) const
 {
-    const QList<Calendar> found = select(QStringLiteral("SELECT %1 FROM calendars WHERE id = ?"), {text(id)});
+    const QList<Calendar> found = select(QStringLiteral("SELECT %1 FROM calendars WHERE id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -89,37 +89,37 @@ bool CalendarRepository::insert(const Calendar &calendar)
 {
     const QDateTime now = Clock::nowUtc();
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("INSERT INTO calendars (id, account_id, url, name, description, color, timezone, is_visible, "
                        "is_read_only, is_default, ctag, sync_token, delta_sync_token, supported_components, "
                        "sort_order, canonical_key, sync_enabled, is_shared, shared_with_me, last_sync_error, "
                        "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
                        "?, ?)"),
-        {text(calendar.id),
-         text(calendar.account_id),
-         text(calendar.url),
-         text(calendar.name),
-         text(calendar.description),
-         text(calendar.color),
-         text(calendar.timezone),
+        {requiredText(calendar.id),
+         requiredText(calendar.account_id),
+         requiredText(calendar.url),
+         requiredText(calendar.name),
+         requiredText(calendar.description),
+         requiredText(calendar.color),
+         requiredText(calendar.timezone),
          StorageFormat::boolValue(calendar.is_visible),
          StorageFormat::boolValue(calendar.is_read_only),
          StorageFormat::boolValue(calendar.is_default),
-         text(calendar.ctag),
-         text(calendar.sync_token),
-         text(calendar.delta_sync_token),
-         text(calendar.supported_components),
+         requiredText(calendar.ctag),
+         requiredText(calendar.sync_token),
+         requiredText(calendar.delta_sync_token),
+         requiredText(calendar.supported_components),
          calendar.sort_order,
-         text(calendar.canonical_key),
+         requiredText(calendar.canonical_key),
          StorageFormat::boolValue(calendar.sync_enabled),
          StorageFormat::boolValue(calendar.is_shared),
          StorageFormat::boolValue(calendar.shared_with_me),
-         text(calendar.last_sync_error),
+         requiredText(calendar.last_sync_error),
          StorageFormat::dateTimeValue(calendar.created_at.isValid() ? calendar.created_at : now),
          StorageFormat::dateTimeValue(calendar.updated_at.isValid() ? calendar.updated_at : now)});
     if (!ok) {
-        RepositorySql::logFailure("CalendarRepository::insert failed:", query.lastError());
+        SqlSupport::logFailure("CalendarRepository::insert failed:", query.lastError());
         return false;
     }
     emit calendarsChanged();
@@ -129,36 +129,36 @@ bool CalendarRepository::insert(const Calendar &calendar)
 bool CalendarRepository::update(const Calendar &calendar)
 {
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("UPDATE calendars SET account_id = ?, url = ?, name = ?, description = ?, color = ?, "
                        "timezone = ?, is_visible = ?, is_read_only = ?, is_default = ?, ctag = ?, sync_token = ?, "
                        "delta_sync_token = ?, supported_components = ?, sort_order = ?, canonical_key = ?, "
                        "sync_enabled = ?, is_shared = ?, shared_with_me = ?, last_sync_error = ?, updated_at = ? "
                        "WHERE id = ?"),
-        {text(calendar.account_id),
-         text(calendar.url),
-         text(calendar.name),
-         text(calendar.description),
-         text(calendar.color),
-         text(calendar.timezone),
+        {requiredText(calendar.account_id),
+         requiredText(calendar.url),
+         requiredText(calendar.name),
+         requiredText(calendar.description),
+         requiredText(calendar.color),
+         requiredText(calendar.timezone),
          StorageFormat::boolValue(calendar.is_visible),
          StorageFormat::boolValue(calendar.is_read_only),
          StorageFormat::boolValue(calendar.is_default),
-         text(calendar.ctag),
-         text(calendar.sync_token),
-         text(calendar.delta_sync_token),
-         text(calendar.supported_components),
+         requiredText(calendar.ctag),
+         requiredText(calendar.sync_token),
+         requiredText(calendar.delta_sync_token),
+         requiredText(calendar.supported_components),
          calendar.sort_order,
-         text(calendar.canonical_key),
+         requiredText(calendar.canonical_key),
          StorageFormat::boolValue(calendar.sync_enabled),
          StorageFormat::boolValue(calendar.is_shared),
          StorageFormat::boolValue(calendar.shared_with_me),
-         text(calendar.last_sync_error),
+         requiredText(calendar.last_sync_error),
          StorageFormat::dateTimeValue(Clock::nowUtc()),
-         text(calendar.id)});
+         requiredText(calendar.id)});
     if (!ok) {
-        RepositorySql::logFailure("CalendarRepository::update failed:", query.lastError());
+        SqlSupport::logFailure("CalendarRepository::update failed:", query.lastError());
         return false;
     }
     emit calendarsChanged();
@@ -168,8 +168,8 @@ bool CalendarRepository::update(const Calendar &calendar)
 bool CalendarRepository::remove(const QString &id)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, QStringLiteral("DELETE FROM calendars WHERE id = ?"), {text(id)})) {
-        RepositorySql::logFailure("CalendarRepository::remove failed:", query.lastError());
+    if (!SqlSupport::exec(query, QStringLiteral("DELETE FROM calendars WHERE id = ?"), {requiredText(id)})) {
+        SqlSupport::logFailure("CalendarRepository::remove failed:", query.lastError());
         return false;
     }
     emit calendarsChanged();
@@ -184,11 +184,11 @@ bool CalendarRepository::setDefault(const QString &id)
     const QVariant now = StorageFormat::dateTimeValue(Clock::nowUtc());
 
     QSqlQuery clear(db);
-    if (!RepositorySql::exec(clear,
+    if (!SqlSupport::exec(clear,
                              QStringLiteral("UPDATE calendars SET is_default = 0, updated_at = ? WHERE is_default = 1 "
                                             "AND id != ?"),
-                             {now, text(id)})) {
-        RepositorySql::logFailure("CalendarRepository::setDefault clear failed:", clear.lastError());
+                             {now, requiredText(id)})) {
+        SqlSupport::logFailure("CalendarRepository::setDefault clear failed:", clear.lastError());
         clear.finish();
         db.rollback();
         return false;
@@ -196,9 +196,9 @@ bool CalendarRepository::setDefault(const QString &id)
     clear.finish();
 
     QSqlQuery set(db);
-    if (!RepositorySql::exec(set, QStringLiteral("UPDATE calendars SET is_default = 1, updated_at = ? WHERE id = ?"),
-                             {now, text(id)})) {
-        RepositorySql::logFailure("CalendarRepository::setDefault set failed:", set.lastError());
+    if (!SqlSupport::exec(set, QStringLiteral("UPDATE calendars SET is_default = 1, updated_at = ? WHERE id = ?"),
+                             {now, requiredText(id)})) {
+        SqlSupport::logFailure("CalendarRepository::setDefault set failed:", set.lastError());
         set.finish();
         db.rollback();
         return false;

@@ -56,6 +56,54 @@ QString checkCalendar(Database &database, const QString &calendarId)
     return QString();
 }
 
+// The key of the calendar's unique index: uid and recurrence id, an absent one counting as empty.
+QString keyOf(const QString &uid, const QString &recurrenceId)
+{
+    return uid + QLatin1Char('\n') + recurrenceId;
+}
+
+// Ids of the calendar's events (tombstones included) by their key.
+QHash<QString, QString> idsByKey(const QSqlDatabase &connection, const QString &calendarId)
+{
+    QHash<QString, QString> ids;
+    QSqlQuery query(connection);
+    query.setForwardOnly(true);
+    query.prepare(QStringLiteral("SELECT uid, COALESCE(recurrence_id, ''), id FROM events WHERE calendar_id = ?"));
+    query.addBindValue(calendarId);
+    if (query.exec()) {
+        while (query.next())
+            ids.insert(keyOf(query.value(0).toString(), query.value(1).toString()), query.value(2).toString());
+    }
+    return ids;
+}
+
+// A large import writes every index of the events table at random places; with SQLite's default
+// 2 MB page cache much of that work goes into spilling pages to the log and reading them back. The
+// connection gets 64 MB for the length of the import, then its own setting again.
+class LargerPageCache
+{
+public:
+    explicit LargerPageCache(const QSqlDatabase &connection)
+        : m_connection(connection)
+    {
+        QSqlQuery query(m_connection);
+        if (query.exec(QStringLiteral("PRAGMA cache_size")) && query.next())
+            m_previous = query.value(0).toString();
+        QSqlQuery(m_connection).exec(QStringLiteral("PRAGMA cache_size = -65536"));
+    }
+    ~LargerPageCache()
+    {
+        if (!m_previous.isEmpty())
+            QSqlQuery(m_connection).exec(QStringLiteral("PRAGMA cache_size = ") + m_previous);
+    }
+    LargerPageCache(const LargerPageCache &) = delete;
+    LargerPageCache &operator=(const LargerPageCache &) = delete;
+
+private:
+    QSqlDatabase m_connection;
+    QString m_previous;
+};
+
 // The file's version of an event already in the calendar. What the file cannot carry stays as it
 // was: the row's identity on the server, and the fields the reader never fills.
 Event mergedUpdate(Event incoming, const Event &existing)
@@ -115,7 +163,7 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
     slotOfKey.reserve(parsed.size());
     chosen.reserve(parsed.size());
     for (qsizetype i = 0; i < parsed.size(); ++i) {
-        const QString key = parsed[i].uid + QLatin1Char('\n') + parsed[i].recurrence_id;
+        const QString key = keyOf(parsed[i].uid, parsed[i].recurrence_id);
         const auto it = slotOfKey.constFind(key);
         if (it == slotOfKey.constEnd()) {
             slotOfKey.insert(key, chosen.size());
@@ -126,20 +174,23 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
     }
 
     QSqlDatabase connection = database.connection();
+    const LargerPageCache cache(connection);
     if (!connection.transaction()) {
         result.error = tr("Could not start the import: %1").arg(connection.lastError().text());
         return result;
     }
+    // The events the calendar already holds, by the key of its unique index: one pass over the
+    // calendar instead of one lookup per event of the file.
+    const QHash<QString, QString> knownIds = idsByKey(connection, calendarId);
     const QDateTime now = Clock::nowUtc();
     const int total = int(chosen.size());
     for (int done = 0; done < total; ++done) {
         Event event = parsed[chosen[done]];
         bool stored = false;
-        const std::optional<Event> known
-            = repository.getByUidAndRecurrenceId(event.uid, calendarId, event.recurrence_id);
+        const QString knownId = knownIds.value(keyOf(event.uid, event.recurrence_id));
+        const std::optional<Event> known = knownId.isEmpty() ? std::nullopt : repository.getById(knownId);
         if (known) {
-            const std::optional<Event> withChildRows = repository.getById(known->id);
-            event = mergedUpdate(std::move(event), withChildRows ? *withChildRows : *known);
+            event = mergedUpdate(std::move(event), *known);
             event.sync_status = QStringLiteral("pending");
             stored = repository.update(event);
             result.updated += stored ? 1 : 0;

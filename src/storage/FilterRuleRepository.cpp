@@ -3,13 +3,13 @@
 
 #include "storage/Clock.h"
 #include "storage/Database.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 #include "storage/StorageFormat.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 namespace {
 
@@ -50,7 +50,7 @@ QList<FilterRule> FilterRuleRepository::select(const QString &sql, const QVarian
     QList<FilterRule> rules;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, sql.arg(kColumns), values))
+    if (!SqlSupport::exec(query, sql.arg(kColumns), values))
         return rules;
     while (query.next())
         rules.append(fromRow(query));
@@ -69,7 +69,7 @@ QList<FilterRule> FilterRuleRepository::getAllIncludingDeleted() const
 
 std::optional<FilterRule> FilterRuleRepository::getById(const QString &id) const
 {
-    const QList<FilterRule> found = select(QStringLiteral("SELECT %1 FROM filter_rules WHERE id = ?"), {text(id)});
+    const QList<FilterRule> found = select(QStringLiteral("SELECT %1 FROM filter_rules WHERE id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -86,18 +86,18 @@ bool FilterRuleRepository::insert(const FilterRule &rule)
 {
     const QDateTime now = Clock::nowUtc();
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("INSERT INTO filter_rules (id, name, type, enabled, calendar_ids, conditions, action, priority, "
                        "event_uid, event_calendar_id, suppress_reminders, sync_status, created_at, updated_at) "
                        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {text(rule.id), text(rule.name), text(rule.type), StorageFormat::boolValue(rule.enabled),
-         text(rule.calendar_ids), text(rule.conditions), text(rule.action), rule.priority, text(rule.event_uid),
-         text(rule.event_calendar_id), StorageFormat::boolValue(rule.suppress_reminders), text(rule.sync_status),
+        {requiredText(rule.id), requiredText(rule.name), requiredText(rule.type), StorageFormat::boolValue(rule.enabled),
+         requiredText(rule.calendar_ids), requiredText(rule.conditions), requiredText(rule.action), rule.priority, requiredText(rule.event_uid),
+         requiredText(rule.event_calendar_id), StorageFormat::boolValue(rule.suppress_reminders), requiredText(rule.sync_status),
          StorageFormat::dateTimeValue(rule.created_at.isValid() ? rule.created_at : now),
          StorageFormat::dateTimeValue(rule.updated_at.isValid() ? rule.updated_at : now)});
     if (!ok) {
-        RepositorySql::logFailure("FilterRuleRepository::insert failed:", query.lastError());
+        SqlSupport::logFailure("FilterRuleRepository::insert failed:", query.lastError());
         return false;
     }
     emit filterRulesChanged();
@@ -107,17 +107,17 @@ bool FilterRuleRepository::insert(const FilterRule &rule)
 bool FilterRuleRepository::update(const FilterRule &rule)
 {
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("UPDATE filter_rules SET name = ?, type = ?, enabled = ?, calendar_ids = ?, conditions = ?, "
                        "action = ?, priority = ?, event_uid = ?, event_calendar_id = ?, suppress_reminders = ?, "
                        "sync_status = ?, updated_at = ? WHERE id = ?"),
-        {text(rule.name), text(rule.type), StorageFormat::boolValue(rule.enabled), text(rule.calendar_ids),
-         text(rule.conditions), text(rule.action), rule.priority, text(rule.event_uid), text(rule.event_calendar_id),
-         StorageFormat::boolValue(rule.suppress_reminders), text(rule.sync_status),
-         StorageFormat::dateTimeValue(Clock::nowUtc()), text(rule.id)});
+        {requiredText(rule.name), requiredText(rule.type), StorageFormat::boolValue(rule.enabled), requiredText(rule.calendar_ids),
+         requiredText(rule.conditions), requiredText(rule.action), rule.priority, requiredText(rule.event_uid), requiredText(rule.event_calendar_id),
+         StorageFormat::boolValue(rule.suppress_reminders), requiredText(rule.sync_status),
+         StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(rule.id)});
     if (!ok) {
-        RepositorySql::logFailure("FilterRuleRepository::update failed:", query.lastError());
+        SqlSupport::logFailure("FilterRuleRepository::update failed:", query.lastError());
         return false;
     }
     emit filterRulesChanged();
@@ -127,7 +127,7 @@ bool FilterRuleRepository::update(const FilterRule &rule)
 bool FilterRuleRepository::execWrite(const QString &sql, const QVariantList &values)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, sql, values))
+    if (!SqlSupport::exec(query, sql, values))
         return false;
     emit filterRulesChanged();
     return true;
@@ -137,14 +137,14 @@ bool FilterRuleRepository::setEnabled(const QString &id, bool enabled)
 {
     return execWrite(
         QStringLiteral("UPDATE filter_rules SET enabled = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {StorageFormat::boolValue(enabled), StorageFormat::dateTimeValue(Clock::nowUtc()), text(id)});
+        {StorageFormat::boolValue(enabled), StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(id)});
 }
 
 bool FilterRuleRepository::reorder(const QStringList &ids)
 {
     if (ids.isEmpty())
         return true;
-    if (!RepositorySql::reorder(
+    if (!SqlSupport::reorder(
             m_database->connection(),
             QStringLiteral(
                 "UPDATE filter_rules SET priority = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
@@ -159,10 +159,10 @@ bool FilterRuleRepository::remove(const QString &id)
     const QVariant now = StorageFormat::dateTimeValue(Clock::nowUtc());
     return execWrite(
         QStringLiteral("UPDATE filter_rules SET deleted_at = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {now, now, text(id)});
+        {now, now, requiredText(id)});
 }
 
 bool FilterRuleRepository::hardDelete(const QString &id)
 {
-    return execWrite(QStringLiteral("DELETE FROM filter_rules WHERE id = ?"), {text(id)});
+    return execWrite(QStringLiteral("DELETE FROM filter_rules WHERE id = ?"), {requiredText(id)});
 }

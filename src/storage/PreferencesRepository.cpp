@@ -2,11 +2,11 @@
 #include "storage/PreferencesRepository.h"
 
 #include "storage/Database.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 
 #include <QSqlQuery>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 PreferencesRepository::PreferencesRepository(Database *database, QObject *parent)
     : QObject(parent)
@@ -17,7 +17,7 @@ std::optional<QString> PreferencesRepository::value(const QString &key) const
 {
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, QStringLiteral("SELECT value FROM settings WHERE key = ?"), {text(key)})
+    if (!SqlSupport::exec(query, QStringLiteral("SELECT value FROM settings WHERE key = ?"), {requiredText(key)})
         || !query.next())
         return std::nullopt;
     return query.value(0).toString();
@@ -44,10 +44,10 @@ int PreferencesRepository::intValue(const QString &key, int fallback) const
 bool PreferencesRepository::setValue(const QString &key, const QString &value)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query,
+    if (!SqlSupport::exec(query,
                              QStringLiteral("INSERT INTO settings (key, value) VALUES (?, ?) ON CONFLICT(key) DO "
                                             "UPDATE SET value = excluded.value"),
-                             {text(key), text(value)}))
+                             {requiredText(key), requiredText(value)}))
         return false;
     emit changed(key);
     return true;
@@ -61,7 +61,7 @@ bool PreferencesRepository::setBool(const QString &key, bool value)
 bool PreferencesRepository::remove(const QString &key)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, QStringLiteral("DELETE FROM settings WHERE key = ?"), {text(key)}))
+    if (!SqlSupport::exec(query, QStringLiteral("DELETE FROM settings WHERE key = ?"), {requiredText(key)}))
         return false;
     emit changed(key);
     return true;

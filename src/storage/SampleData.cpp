@@ -2,6 +2,8 @@
 #include "storage/SampleData.h"
 
 #include "ical/ICal.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
@@ -11,6 +13,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTimeZone>
+
+#include <algorithm>
 
 namespace {
 
@@ -167,43 +171,48 @@ bool run(Database &database, const QString &sql, const QVariantList &values = {}
     return true;
 }
 
-bool exists(Database &database, const QString &table, const QString &id)
+void seedAccountAndCalendars(AccountRepository &accounts, CalendarRepository &calendars)
 {
-    QSqlQuery query(database.connection());
-    query.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE id = ?").arg(table));
-    query.addBindValue(id);
-    return query.exec() && query.next();
-}
-
-void seedAccountAndCalendars(Database &database)
-{
-    const QString now = Clock::nowUtc().toString(Qt::ISODate);
-    if (!exists(database, QStringLiteral("accounts"), kAccountId)) {
-        run(database,
-            QStringLiteral(
-                "INSERT INTO accounts (id, name, type, color, created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?)"),
-            {kAccountId, QStringLiteral("Sample Data"), QStringLiteral("kettlebrook"), QStringLiteral("#9E9E9E"), now,
-             now});
+    const QDateTime now = Clock::nowUtc();
+    // An account removed by the user but not yet reaped still holds the id.
+    const QList<Account> known = accounts.getAllIncludingDeleted();
+    const bool haveAccount
+        = std::any_of(known.cbegin(), known.cend(), [](const Account &account) { return account.id == kAccountId; });
+    if (!haveAccount) {
+        Account account;
+        account.id = kAccountId;
+        account.name = QStringLiteral("Sample Data");
+        account.type = QStringLiteral("kettlebrook");
+        account.color = QStringLiteral("#9E9E9E");
+        account.created_at = now;
+        account.updated_at = now;
+        accounts.insert(account);
     }
     int order = 1000;
-    for (const SampleCalendar &calendar : sampleCalendars()) {
+    for (const SampleCalendar &sample : sampleCalendars()) {
         order += 10;
-        if (exists(database, QStringLiteral("calendars"), calendar.id))
+        if (calendars.getById(sample.id))
             continue;
-        run(database,
-            QStringLiteral("INSERT INTO calendars (id, account_id, url, name, color, supported_components, sort_order, "
-                           "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-            {calendar.id, kAccountId, QString(QStringLiteral("local://calendar/") + calendar.id),
-             QString::fromUtf8(calendar.name), QString::fromLatin1(calendar.color), QStringLiteral("[\"VEVENT\"]"),
-             order, now, now});
+        Calendar calendar;
+        calendar.id = sample.id;
+        calendar.account_id = kAccountId;
+        calendar.url = QStringLiteral("local://calendar/") + sample.id;
+        calendar.name = QString::fromUtf8(sample.name);
+        calendar.color = QString::fromLatin1(sample.color);
+        calendar.supported_components = QStringLiteral("[\"VEVENT\"]");
+        calendar.sort_order = order;
+        calendar.created_at = now;
+        calendar.updated_at = now;
+        calendars.insert(calendar);
     }
 }
 
 } // namespace
 
-void seedSampleData(Database &database, EventRepository &events, TaskRepository &tasks)
+void seedSampleData(AccountRepository &accounts, CalendarRepository &calendars, EventRepository &events,
+                    TaskRepository &tasks)
 {
-    seedAccountAndCalendars(database);
+    seedAccountAndCalendars(accounts, calendars);
 
     const QDateTime now = Clock::nowUtc();
     const QDate today = Clock::nowLocal().date();

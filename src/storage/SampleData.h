@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+class AccountRepository;
+class CalendarRepository;
 class Database;
 class EventRepository;
 class TaskRepository;
@@ -16,7 +18,8 @@ class TaskRepository;
 
 // Adds whatever part of the sample data is missing; rows already there are left as they are, so
 // seeding twice adds nothing. Rows are stored "synced": they exist nowhere else.
-void seedSampleData(Database &database, EventRepository &events, TaskRepository &tasks);
+void seedSampleData(AccountRepository &accounts, CalendarRepository &calendars, EventRepository &events,
+                    TaskRepository &tasks);
 
 // Deletes the sample events, tasks, calendars and account, in that order, and returns the number of
 // rows the statements that succeeded removed. When the user has put events of their own into a

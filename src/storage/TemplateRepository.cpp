@@ -3,13 +3,13 @@
 
 #include "storage/Clock.h"
 #include "storage/Database.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 #include "storage/StorageFormat.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 namespace {
 
@@ -50,7 +50,7 @@ QList<Template> TemplateRepository::select(const QString &sqlTail, const QVarian
     QList<Template> presets;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, kSelect + sqlTail, values))
+    if (!SqlSupport::exec(query, kSelect + sqlTail, values))
         return presets;
     while (query.next())
         presets.append(fromRow(query));
@@ -69,7 +69,7 @@ QList<Template> TemplateRepository::getAllIncludingDeleted() const
 
 std::optional<Template> TemplateRepository::getById(const QString &id) const
 {
-    const QList<Template> found = select(QStringLiteral(" WHERE deleted_at IS NULL AND id = ?"), {text(id)});
+    const QList<Template> found = select(QStringLiteral(" WHERE deleted_at IS NULL AND id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -86,18 +86,18 @@ std::optional<Template> TemplateRepository::insert(const Template &preset)
     stored.updated_at = now;
 
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("INSERT INTO event_templates (id, name, title, description, location, color, is_all_day, "
                        "duration_minutes, recurrence_rule, calendar_id, reminders, sort_order, sync_status, "
                        "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, 'pending', ?, ?)"),
-        {text(stored.id), text(stored.name), text(stored.title), text(stored.description), text(stored.location),
-         text(stored.color), StorageFormat::boolValue(stored.is_all_day), stored.duration_minutes,
-         text(stored.recurrence_rule), text(stored.calendar_id), StorageFormat::intListJson(stored.reminders),
+        {requiredText(stored.id), requiredText(stored.name), requiredText(stored.title), requiredText(stored.description), requiredText(stored.location),
+         requiredText(stored.color), StorageFormat::boolValue(stored.is_all_day), stored.duration_minutes,
+         requiredText(stored.recurrence_rule), requiredText(stored.calendar_id), StorageFormat::intListJson(stored.reminders),
          stored.sort_order, StorageFormat::dateTimeValue(stored.created_at),
          StorageFormat::dateTimeValue(stored.updated_at)});
     if (!ok) {
-        RepositorySql::logFailure("TemplateRepository::insert failed:", query.lastError());
+        SqlSupport::logFailure("TemplateRepository::insert failed:", query.lastError());
         return std::nullopt;
     }
     emit templatesChanged();
@@ -107,17 +107,17 @@ std::optional<Template> TemplateRepository::insert(const Template &preset)
 bool TemplateRepository::update(const Template &preset)
 {
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral("UPDATE event_templates SET name = ?, title = ?, description = ?, location = ?, color = ?, "
                        "is_all_day = ?, duration_minutes = ?, recurrence_rule = ?, calendar_id = ?, reminders = ?, "
                        "sort_order = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {text(preset.name), text(preset.title), text(preset.description), text(preset.location), text(preset.color),
-         StorageFormat::boolValue(preset.is_all_day), preset.duration_minutes, text(preset.recurrence_rule),
-         text(preset.calendar_id), StorageFormat::intListJson(preset.reminders), preset.sort_order,
-         StorageFormat::dateTimeValue(Clock::nowUtc()), text(preset.id)});
+        {requiredText(preset.name), requiredText(preset.title), requiredText(preset.description), requiredText(preset.location), requiredText(preset.color),
+         StorageFormat::boolValue(preset.is_all_day), preset.duration_minutes, requiredText(preset.recurrence_rule),
+         requiredText(preset.calendar_id), StorageFormat::intListJson(preset.reminders), preset.sort_order,
+         StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(preset.id)});
     if (!ok) {
-        RepositorySql::logFailure("TemplateRepository::update failed:", query.lastError());
+        SqlSupport::logFailure("TemplateRepository::update failed:", query.lastError());
         return false;
     }
     emit templatesChanged();
@@ -127,7 +127,7 @@ bool TemplateRepository::update(const Template &preset)
 bool TemplateRepository::execWrite(const QString &sql, const QVariantList &values)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, sql, values))
+    if (!SqlSupport::exec(query, sql, values))
         return false;
     emit templatesChanged();
     return true;
@@ -139,10 +139,10 @@ bool TemplateRepository::remove(const QString &id)
     return execWrite(
         QStringLiteral(
             "UPDATE event_templates SET deleted_at = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {now, now, text(id)});
+        {now, now, requiredText(id)});
 }
 
 bool TemplateRepository::hardDelete(const QString &id)
 {
-    return execWrite(QStringLiteral("DELETE FROM event_templates WHERE id = ?"), {text(id)});
+    return execWrite(QStringLiteral("DELETE FROM event_templates WHERE id = ?"), {requiredText(id)});
 }

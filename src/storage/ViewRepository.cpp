@@ -3,13 +3,13 @@
 
 #include "storage/Clock.h"
 #include "storage/Database.h"
-#include "storage/RepositorySql.h"
+#include "storage/SqlSupport.h"
 #include "storage/StorageFormat.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
 
-using RepositorySql::text;
+using SqlSupport::requiredText;
 
 namespace {
 
@@ -44,7 +44,7 @@ QList<CalendarView> ViewRepository::select(const QString &sql, const QVariantLis
     QList<CalendarView> views;
     QSqlQuery query(m_database->connection());
     query.setForwardOnly(true);
-    if (!RepositorySql::exec(query, sql.arg(kColumns), values))
+    if (!SqlSupport::exec(query, sql.arg(kColumns), values))
         return views;
     while (query.next())
         views.append(fromRow(query));
@@ -66,7 +66,7 @@ QList<CalendarView> ViewRepository::getAllIncludingDeleted() const
 
 std::optional<CalendarView> ViewRepository::getById(const QString &id) const
 {
-    const QList<CalendarView> found = select(QStringLiteral("SELECT %1 FROM calendar_views WHERE id = ?"), {text(id)});
+    const QList<CalendarView> found = select(QStringLiteral("SELECT %1 FROM calendar_views WHERE id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -76,17 +76,17 @@ bool ViewRepository::insert(const CalendarView &view)
 {
     const QDateTime now = Clock::nowUtc();
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral(
             "INSERT INTO calendar_views (id, name, color, calendar_ids, is_default, sort_order, sync_status, "
             "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {text(view.id), text(view.name), text(view.color), text(view.calendar_ids),
-         StorageFormat::boolValue(view.is_default), view.sort_order, text(view.sync_status),
+        {requiredText(view.id), requiredText(view.name), requiredText(view.color), requiredText(view.calendar_ids),
+         StorageFormat::boolValue(view.is_default), view.sort_order, requiredText(view.sync_status),
          StorageFormat::dateTimeValue(view.created_at.isValid() ? view.created_at : now),
          StorageFormat::dateTimeValue(view.updated_at.isValid() ? view.updated_at : now)});
     if (!ok) {
-        RepositorySql::logFailure("ViewRepository::insert failed:", query.lastError());
+        SqlSupport::logFailure("ViewRepository::insert failed:", query.lastError());
         return false;
     }
     emit viewsChanged();
@@ -96,15 +96,15 @@ bool ViewRepository::insert(const CalendarView &view)
 bool ViewRepository::update(const CalendarView &view)
 {
     QSqlQuery query(m_database->connection());
-    const bool ok = RepositorySql::exec(
+    const bool ok = SqlSupport::exec(
         query,
         QStringLiteral(
             "UPDATE calendar_views SET name = ?, color = ?, calendar_ids = ?, is_default = ?, sort_order = ?, "
             "sync_status = ?, updated_at = ? WHERE id = ?"),
-        {text(view.name), text(view.color), text(view.calendar_ids), StorageFormat::boolValue(view.is_default),
-         view.sort_order, text(view.sync_status), StorageFormat::dateTimeValue(Clock::nowUtc()), text(view.id)});
+        {requiredText(view.name), requiredText(view.color), requiredText(view.calendar_ids), StorageFormat::boolValue(view.is_default),
+         view.sort_order, requiredText(view.sync_status), StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(view.id)});
     if (!ok) {
-        RepositorySql::logFailure("ViewRepository::update failed:", query.lastError());
+        SqlSupport::logFailure("ViewRepository::update failed:", query.lastError());
         return false;
     }
     emit viewsChanged();
@@ -114,7 +114,7 @@ bool ViewRepository::update(const CalendarView &view)
 bool ViewRepository::execWrite(const QString &sql, const QVariantList &values)
 {
     QSqlQuery query(m_database->connection());
-    if (!RepositorySql::exec(query, sql, values))
+    if (!SqlSupport::exec(query, sql, values))
         return false;
     emit viewsChanged();
     return true;
@@ -126,19 +126,19 @@ bool ViewRepository::remove(const QString &id)
     return execWrite(
         QStringLiteral(
             "UPDATE calendar_views SET deleted_at = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {now, now, text(id)});
+        {now, now, requiredText(id)});
 }
 
 bool ViewRepository::hardDelete(const QString &id)
 {
-    return execWrite(QStringLiteral("DELETE FROM calendar_views WHERE id = ?"), {text(id)});
+    return execWrite(QStringLiteral("DELETE FROM calendar_views WHERE id = ?"), {requiredText(id)});
 }
 
 bool ViewRepository::reorder(const QStringList &ids)
 {
     if (ids.isEmpty())
         return true;
-    if (!RepositorySql::reorder(
+    if (!SqlSupport::reorder(
             m_database->connection(),
             QStringLiteral(
                 "UPDATE calendar_views SET sort_order = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
