@@ -49,3 +49,7 @@ echo "== bench_filterrules"
 "$build/bin/bench_filterrules"
 echo "== bench_spanquery"
 QT_LOGGING_RULES="*.info=false" "$build/bin/bench_spanquery" "$calendar"
+
+# The day/week view: the first visit of a week and steps to the next one, offscreen.
+echo "== bench_timeline"
+QT_LOGGING_RULES="*.info=false" "$build/bin/bench_timeline" "$calendar"

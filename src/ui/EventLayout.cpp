@@ -27,16 +27,20 @@ QList<TimedPlacement> layoutTimed(const QList<TimedItem> &items, int minimumMinu
         // One cluster: everything reachable through overlaps from its first item.
         QList<qsizetype> cluster;
         QList<int> columnEnds; // the end of the last item placed in each column
+        QList<QList<qsizetype>> columnItems; // the items of each column, by start
         int clusterEnd = items[order[index]].start;
         while (index < count && (cluster.isEmpty() || items[order[index]].start < clusterEnd)) {
             const qsizetype item = order[index++];
             int column = 0;
             while (column < columnEnds.size() && columnEnds[column] > items[item].start)
                 ++column;
-            if (column == columnEnds.size())
+            if (column == columnEnds.size()) {
                 columnEnds.append(effectiveEnd[item]);
-            else
+                columnItems.append(QList<qsizetype>());
+            } else {
                 columnEnds[column] = effectiveEnd[item];
+            }
+            columnItems[column].append(item);
             placements[item].column = column;
             cluster.append(item);
             clusterEnd = std::max(clusterEnd, effectiveEnd[item]);
@@ -44,18 +48,16 @@ QList<TimedPlacement> layoutTimed(const QList<TimedItem> &items, int minimumMinu
         const int columns = int(columnEnds.size());
         for (qsizetype item : std::as_const(cluster)) {
             placements[item].columns = columns;
-            // Spread right while no item of a later column overlaps this one.
+            // Spread right while no item of a later column overlaps this one. The items of a column
+            // never overlap each other, so their ends rise with their starts: the one to check is
+            // the first that ends after this item starts.
             int span = 1;
             for (int next = placements[item].column + 1; next < columns; ++next) {
-                bool blocked = false;
-                for (qsizetype other : std::as_const(cluster)) {
-                    if (placements[other].column == next && items[other].start < effectiveEnd[item]
-                        && items[item].start < effectiveEnd[other]) {
-                        blocked = true;
-                        break;
-                    }
-                }
-                if (blocked)
+                const QList<qsizetype> &inColumn = columnItems[next];
+                const auto first = std::upper_bound(
+                    inColumn.begin(), inColumn.end(), items[item].start,
+                    [&effectiveEnd](int start, qsizetype other) { return start < effectiveEnd[other]; });
+                if (first != inColumn.end() && items[*first].start < effectiveEnd[item])
                     break;
                 ++span;
             }

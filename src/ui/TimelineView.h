@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QList>
 #include <QRect>
 #include <QWidget>
 
@@ -35,6 +36,20 @@ public:
     // Scrolls the hour grid so that the given time is in view (start-up: the working day).
     void scrollToTime(const QTime &time);
 
+    // An occurrence as it is drawn: one piece per day column for a timed event (an event across
+    // midnight has one in each day it covers), one bar for an all-day or multi-day event. The
+    // rectangle is in this widget's coordinates and may lie in the scrolled-away part of the grid;
+    // bars folded into a "+N" are not drawn and not listed.
+    struct DrawnItem
+    {
+        Event occurrence;
+        QRect rect;
+        bool allDay = false;
+        bool dimmed = false;
+        bool selected = false;
+    };
+    QList<DrawnItem> drawnItems() const;
+
 signals:
     // An event was clicked: the occurrence and where it is on screen (global coordinates).
     void eventActivated(const Event &occurrence, const QRect &globalRect);
@@ -42,6 +57,10 @@ signals:
     void createRequested(const QDateTime &start, const QDateTime &end, bool allDay);
     // A day header was clicked.
     void dayActivated(const QDate &date);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     class Private;

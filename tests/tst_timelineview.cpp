@@ -1,0 +1,767 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/AppState.h"
+#include "app/UndoStack.h"
+#include "storage/CalendarRepository.h"
+#include "storage/Clock.h"
+#include "storage/EventRepository.h"
+#include "storage/FilterRuleRepository.h"
+#include "storage/PreferencesRepository.h"
+#include "ui/AllDayStrip.h"
+#include "ui/EventBlockPainter.h"
+#include "ui/EventEditor.h"
+#include "ui/SpanCache.h"
+#include "ui/ThemeManager.h"
+#include "ui/TimelineGrid.h"
+#include "ui/TimelineHeader.h"
+#include "ui/TimelineMath.h"
+#include "ui/TimelineView.h"
+
+#include "ScopeQuestionStandIn.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimeZone>
+
+using TimelineMath::kMinutesPerDay;
+
+namespace {
+
+const QTimeZone kBerlin("Europe/Berlin");
+// The week on screen: Monday 8 to Sunday 14 January 2024; "now" is Wednesday 10 at 10:30.
+const QDate kMonday(2024, 1, 8);
+
+QDateTime at(int day, int hour, int minute = 0)
+{
+    return QDateTime(QDate(2024, 1, day), QTime(hour, minute), kBerlin);
+}
+
+void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &pos, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, QPointF(pos), QPointF(widget->mapToGlobal(pos)), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+// Press, move in a few steps, release: what a hand does.
+void drag(QWidget *widget, const QPoint &from, const QPoint &to)
+{
+    sendMouse(widget, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    for (int step = 1; step <= 4; ++step)
+        sendMouse(widget, QEvent::MouseMove, from + (to - from) * step / 4, Qt::NoButton, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}
+
+void click(QWidget *widget, const QPoint &pos)
+{
+    sendMouse(widget, QEvent::MouseButtonPress, pos, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonRelease, pos, Qt::LeftButton, Qt::NoButton);
+}
+
+void doubleClick(QWidget *widget, const QPoint &pos)
+{
+    click(widget, pos);
+    sendMouse(widget, QEvent::MouseButtonDblClick, pos, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonRelease, pos, Qt::LeftButton, Qt::NoButton);
+}
+
+int colorDistance(const QColor &a, const QColor &b)
+{
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+}
+
+} // namespace
+
+// The day/week view as drawn and as handled: layout of events, drags through the editor,
+// creation gestures, filters, zoom and labels.
+class TestTimelineView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void overlappingEventsSideBySide();
+    void midnightCrossingDrawnInBothDays();
+    void allDayBarsInLanes();
+    void crowdedStripFoldsIntoMore();
+    void gestureChangesEventWithUndo_data();
+    void gestureChangesEventWithUndo();
+    void shortDragIsAClick();
+    void escapeCancelsDrag();
+    void dragSurvivesNewData();
+    void readOnlyEventDoesNotMove();
+    void seriesDragAsksForScope();
+    void allDayBarMovesByDays();
+    void doubleClickCreates_data();
+    void doubleClickCreates();
+    void sweepCreates_data();
+    void sweepCreates();
+    void allDayDoubleClickCreates();
+    void clickSelectsAndEmptyClickClears();
+    void dimmedEventsDrawnDimmed();
+    void hiddenCountReachesAppState();
+    void hourLabelsFollowTimeFormat_data();
+    void hourLabelsFollowTimeFormat();
+    void ctrlWheelZoomsKeepingTimeUnderPointer();
+    void zoomFromElsewhereResizesGrid();
+    void currentTimeLineFollowsClock();
+    void headerClickActivatesDay();
+    void keyboardWalksThroughEvents();
+
+private:
+    Event add(const QString &title, const QDateTime &start, const QDateTime &end, bool allDay = false,
+              const QString &rule = QString());
+    // Lets the span cache pick up changes and the view lay them out again.
+    void settle();
+    QList<TimelineView::DrawnItem> itemsOf(const QString &title) const;
+    QPoint gridPoint(int day, int minute) const;
+    QPoint toGrid(const QPoint &viewPoint) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<AppState> m_state;
+    std::unique_ptr<SpanCache> m_cache;
+    std::unique_ptr<EventEditor> m_editor;
+    std::unique_ptr<TimelineView> m_view;
+    TimelineGrid *m_grid = nullptr;
+};
+
+void TestTimelineView::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    Clock::setFixedNow(at(10, 10, 30));
+    ScopeQuestionStandIn::answer() = ScopeQuestionStandIn::Answer();
+    m_state = std::make_unique<AppState>();
+    QVERIFY(m_state->initialize(m_dir->filePath(QStringLiteral("calendar.db"))));
+    m_state->theme()->setMode(QStringLiteral("light"));
+    m_cache = std::make_unique<SpanCache>(m_state.get());
+    m_editor = std::make_unique<EventEditor>(m_state.get());
+    m_view = std::make_unique<TimelineView>(m_state.get(), m_cache.get(), m_editor.get());
+    m_view->resize(1000, 800);
+    m_view->setDays(kMonday, 7);
+    m_view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+    m_grid = m_view->findChild<TimelineGrid *>(QStringLiteral("timelineGrid"));
+    QVERIFY(m_grid);
+}
+
+void TestTimelineView::cleanup()
+{
+    m_view.reset();
+    m_editor.reset();
+    m_cache.reset();
+    m_state.reset();
+    m_dir.reset();
+    Clock::setFixedNow(QDateTime());
+}
+
+Event TestTimelineView::add(const QString &title, const QDateTime &start, const QDateTime &end, bool allDay,
+                            const QString &rule)
+{
+    Event draft;
+    draft.calendar_id = AppState::kLocalCalendarId;
+    draft.title = title;
+    draft.start_time = start;
+    draft.end_time = end;
+    draft.is_all_day = allDay;
+    draft.timezone = allDay ? QStringLiteral("UTC") : QStringLiteral("Europe/Berlin");
+    draft.recurrence_rule = rule;
+    return m_editor->create(draft).value_or(Event());
+}
+
+void TestTimelineView::settle()
+{
+    QSignalSpy invalidated(m_cache.get(), &SpanCache::invalidated);
+    QVERIFY(invalidated.wait(1000));
+    QCoreApplication::processEvents();
+}
+
+QList<TimelineView::DrawnItem> TestTimelineView::itemsOf(const QString &title) const
+{
+    QList<TimelineView::DrawnItem> found;
+    for (const TimelineView::DrawnItem &item : m_view->drawnItems()) {
+        if (item.occurrence.title == title)
+            found.append(item);
+    }
+    return found;
+}
+
+QPoint TestTimelineView::toGrid(const QPoint &viewPoint) const
+{
+    return m_grid->mapFrom(m_view.get(), viewPoint);
+}
+
+QPoint TestTimelineView::gridPoint(int day, int minute) const
+{
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    const int x = toGrid(header->mapTo(m_view.get(), header->dayRect(day).center())).x();
+    return {x, TimelineMath::yAt(minute, m_state->hourHeight()) + 1};
+}
+
+void TestTimelineView::overlappingEventsSideBySide()
+{
+    add(QStringLiteral("Design"), at(9, 10), at(9, 11));
+    add(QStringLiteral("Review"), at(9, 10, 30), at(9, 11, 30));
+    add(QStringLiteral("Alone"), at(9, 14), at(9, 15));
+    settle();
+    const QList<TimelineView::DrawnItem> design = itemsOf(QStringLiteral("Design"));
+    const QList<TimelineView::DrawnItem> review = itemsOf(QStringLiteral("Review"));
+    const QList<TimelineView::DrawnItem> alone = itemsOf(QStringLiteral("Alone"));
+    QCOMPARE(design.size(), 1);
+    QCOMPARE(review.size(), 1);
+    QCOMPARE(alone.size(), 1);
+    const QRect a = design.first().rect;
+    const QRect b = review.first().rect;
+    const QRect c = alone.first().rect;
+    // Side by side, halves of the column, not overlapping; the lone event takes the whole width.
+    QVERIFY2(a.right() < b.left(), qPrintable(QStringLiteral("%1 vs %2").arg(a.right()).arg(b.left())));
+    QVERIFY(std::abs(a.width() - b.width()) <= 2);
+    QVERIFY(c.width() > a.width() + b.width());
+    QCOMPARE(c.left(), a.left());
+    // Vertical placement follows the times: an hour is hourHeight pixels.
+    const int hour = m_state->hourHeight();
+    QCOMPARE(b.top() - a.top(), hour / 2);
+    QVERIFY(std::abs(a.height() - hour) <= 2);
+    QCOMPARE(toGrid(a.topLeft()).y(), TimelineMath::yAt(600, hour) + 1);
+    // Tuesday is the second column.
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    QVERIFY(header->dayRect(1).contains(QPoint(a.center().x(), 5)));
+}
+
+void TestTimelineView::midnightCrossingDrawnInBothDays()
+{
+    add(QStringLiteral("Red-eye"), at(9, 22), at(10, 2));
+    settle();
+    const QList<TimelineView::DrawnItem> pieces = itemsOf(QStringLiteral("Red-eye"));
+    QCOMPARE(pieces.size(), 2);
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    const QRect tuesday = pieces.at(0).rect;
+    const QRect wednesday = pieces.at(1).rect;
+    QVERIFY(header->dayRect(1).contains(QPoint(tuesday.center().x(), 5)));
+    QVERIFY(header->dayRect(2).contains(QPoint(wednesday.center().x(), 5)));
+    const int hour = m_state->hourHeight();
+    QCOMPARE(toGrid(tuesday.topLeft()).y(), TimelineMath::yAt(22 * 60, hour) + 1);
+    QVERIFY(std::abs(toGrid(tuesday.bottomLeft()).y() - 24 * hour) <= 2);
+    QCOMPARE(toGrid(wednesday.topLeft()).y(), 1);
+    QVERIFY(std::abs(wednesday.height() - 2 * hour) <= 2);
+    // No bar in the all-day strip for it: it lasts four hours.
+    QVERIFY(!pieces.at(0).allDay && !pieces.at(1).allDay);
+}
+
+void TestTimelineView::allDayBarsInLanes()
+{
+    add(QStringLiteral("Conference"), QDateTime(QDate(2024, 1, 8), QTime(0, 0), QTimeZone::utc()),
+        QDateTime(QDate(2024, 1, 11), QTime(0, 0), QTimeZone::utc()), true);
+    add(QStringLiteral("Holiday"), QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()),
+        QDateTime(QDate(2024, 1, 10), QTime(0, 0), QTimeZone::utc()), true);
+    add(QStringLiteral("Trip"), at(11, 8), at(12, 10)); // 26 hours: a bar, not a block
+    add(QStringLiteral("Beyond"), QDateTime(QDate(2024, 1, 13), QTime(0, 0), QTimeZone::utc()),
+        QDateTime(QDate(2024, 1, 20), QTime(0, 0), QTimeZone::utc()), true);
+    settle();
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    const auto bar = [this](const QString &title) {
+        const QList<TimelineView::DrawnItem> items = itemsOf(title);
+        return items.size() == 1 && items.first().allDay ? items.first().rect : QRect();
+    };
+    const QRect conference = bar(QStringLiteral("Conference"));
+    const QRect holiday = bar(QStringLiteral("Holiday"));
+    const QRect trip = bar(QStringLiteral("Trip"));
+    const QRect beyond = bar(QStringLiteral("Beyond"));
+    QVERIFY(!conference.isNull() && !holiday.isNull() && !trip.isNull() && !beyond.isNull());
+    // Monday to Wednesday in the first lane; Tuesday's holiday below it; the trip back in the first lane.
+    QVERIFY(conference.left() >= header->dayRect(0).left() && conference.left() < header->dayRect(0).left() + 6);
+    QVERIFY(conference.right() < header->dayRect(2).right() && conference.right() > header->dayRect(2).right() - 6);
+    QVERIFY(holiday.top() > conference.bottom());
+    QVERIFY(header->dayRect(1).contains(QPoint(holiday.center().x(), 5)));
+    QCOMPARE(trip.top(), conference.top());
+    QVERIFY(trip.left() >= header->dayRect(3).left() && trip.right() <= header->dayRect(4).right());
+    QVERIFY(trip.right() > header->dayRect(4).left());
+    // Clipped at the end of the week.
+    QVERIFY(beyond.right() <= header->dayRect(6).right());
+    QVERIFY(beyond.left() >= header->dayRect(5).left());
+    // Bars sit between the header and the hour grid.
+    QVERIFY(conference.top() > header->geometry().bottom());
+    QVERIFY(conference.bottom() < m_view->findChild<QScrollArea *>()->geometry().top());
+}
+
+void TestTimelineView::crowdedStripFoldsIntoMore()
+{
+    for (int i = 0; i < 5; ++i)
+        add(QStringLiteral("All day %1").arg(i), QDateTime(QDate(2024, 1, 8), QTime(0, 0), QTimeZone::utc()),
+            QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()), true);
+    add(QStringLiteral("Tuesday"), QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()),
+        QDateTime(QDate(2024, 1, 10), QTime(0, 0), QTimeZone::utc()), true);
+    settle();
+    auto *strip = m_view->findChild<AllDayStrip *>(QStringLiteral("allDayStrip"));
+    QVERIFY(!strip->isExpanded());
+    QCOMPARE(strip->visibleLanes(), AllDayStrip::kCollapsedLanes - 1);
+    QCOMPARE(strip->overflowCount(0), 5 - strip->visibleLanes());
+    QCOMPARE(strip->overflowCount(1), 0);
+    int drawn = 0;
+    for (const TimelineView::DrawnItem &item : m_view->drawnItems())
+        drawn += item.allDay ? 1 : 0;
+    QCOMPARE(drawn, strip->visibleLanes() + 1);
+    const int collapsedHeight = strip->height();
+    click(strip, strip->overflowRect(0).center());
+    QVERIFY(strip->isExpanded());
+    QVERIFY(strip->height() > collapsedHeight);
+    drawn = 0;
+    for (const TimelineView::DrawnItem &item : m_view->drawnItems())
+        drawn += item.allDay ? 1 : 0;
+    QCOMPARE(drawn, 6);
+}
+
+void TestTimelineView::gestureChangesEventWithUndo_data()
+{
+    QTest::addColumn<bool>("resize");
+    QTest::addColumn<int>("toDay"); // column index the pointer ends in
+    QTest::addColumn<int>("pointerMinutes"); // how far the pointer moves vertically
+    QTest::addColumn<QDateTime>("expectedStart");
+    QTest::addColumn<QDateTime>("expectedEnd");
+    QTest::addColumn<QString>("summary");
+    QTest::newRow("move an hour later") << false << 1 << 62 << at(9, 11) << at(9, 12) << "Moved \"Planning\"";
+    QTest::newRow("move to Thursday, earlier")
+        << false << 3 << -95 << at(11, 8, 30) << at(11, 9, 30) << "Moved \"Planning\"";
+    QTest::newRow("resize longer") << true << 1 << 44 << at(9, 10) << at(9, 11, 45) << "Resized \"Planning\"";
+    QTest::newRow("resize to the minimum") << true << 1 << -120 << at(9, 10) << at(9, 10, 15) << "Resized \"Planning\"";
+}
+
+void TestTimelineView::gestureChangesEventWithUndo()
+{
+    QFETCH(bool, resize);
+    QFETCH(int, toDay);
+    QFETCH(int, pointerMinutes);
+    const Event created = add(QStringLiteral("Planning"), at(9, 10), at(9, 11));
+    settle();
+    const QList<TimelineView::DrawnItem> items = itemsOf(QStringLiteral("Planning"));
+    QCOMPARE(items.size(), 1);
+    const QRect box = items.first().rect;
+    const QRect gridBox(toGrid(box.topLeft()), box.size());
+    const QPoint from = toGrid(resize ? QPoint(box.center().x(), box.bottom() - 2) : box.center());
+    const QPoint to(gridPoint(toDay, 0).x(), from.y() + TimelineMath::yAt(pointerMinutes, m_state->hourHeight()));
+    QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
+    drag(m_grid, from, to);
+    QCOMPARE(activated.count(), 0);
+
+    const std::optional<Event> stored = m_state->events()->getById(created.id);
+    QVERIFY(stored);
+    QFETCH(QDateTime, expectedStart);
+    QFETCH(QDateTime, expectedEnd);
+    QFETCH(QString, summary);
+    QCOMPARE(stored->start_time, expectedStart);
+    QCOMPARE(*stored->end_time, expectedEnd);
+    QCOMPARE(stored->sync_status, QStringLiteral("pending"));
+    QCOMPARE(m_state->undoStack()->count(), 1);
+
+    QSignalSpy undone(m_state->undoStack(), &UndoStack::undone);
+    m_state->undoStack()->undo();
+    QCOMPARE(undone.count(), 1);
+    QCOMPARE(undone.first().first().toString(), summary);
+    const std::optional<Event> restored = m_state->events()->getById(created.id);
+    QCOMPARE(restored->start_time, at(9, 10));
+    QCOMPARE(*restored->end_time, at(9, 11));
+    // The view follows the restore.
+    settle();
+    const QRect back = itemsOf(QStringLiteral("Planning")).first().rect;
+    QCOMPARE(QRect(toGrid(back.topLeft()), back.size()), gridBox);
+}
+
+void TestTimelineView::shortDragIsAClick()
+{
+    const Event created = add(QStringLiteral("Call"), at(10, 14), at(10, 15));
+    settle();
+    const QRect box = itemsOf(QStringLiteral("Call")).first().rect;
+    QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
+    drag(m_grid, toGrid(box.center()), toGrid(box.center()) + QPoint(1, 2));
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(activated.first().first().value<Event>().id, created.id);
+    const QRect global = activated.first().at(1).toRect();
+    QCOMPARE(global.size(), box.size());
+    QCOMPARE(global.topLeft(), m_view->mapToGlobal(box.topLeft()));
+    QCOMPARE(m_state->events()->getById(created.id)->start_time, at(10, 14));
+    QCOMPARE(m_state->undoStack()->count(), 0);
+}
+
+void TestTimelineView::escapeCancelsDrag()
+{
+    const Event created = add(QStringLiteral("Call"), at(10, 14), at(10, 15));
+    settle();
+    const QPoint from = toGrid(itemsOf(QStringLiteral("Call")).first().rect.center());
+    const QPoint to = from + QPoint(0, 2 * m_state->hourHeight());
+    sendMouse(m_grid, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(m_grid, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    QVERIFY(m_grid->isDragging());
+    QTest::keyClick(m_grid, Qt::Key_Escape);
+    QVERIFY(!m_grid->isDragging());
+    sendMouse(m_grid, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(m_state->events()->getById(created.id)->start_time, at(10, 14));
+    QCOMPARE(m_state->undoStack()->count(), 0);
+}
+
+void TestTimelineView::dragSurvivesNewData()
+{
+    const Event call = add(QStringLiteral("Call"), at(10, 14), at(10, 15));
+    settle();
+    const QPoint from = toGrid(itemsOf(QStringLiteral("Call")).first().rect.center());
+    const QPoint to = from + QPoint(0, m_state->hourHeight());
+    sendMouse(m_grid, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(m_grid, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    QVERIFY(m_grid->isDragging());
+    // A sync lands mid-drag: an earlier event now comes first in the layout.
+    add(QStringLiteral("Early"), at(10, 8), at(10, 9));
+    settle();
+    QVERIFY(m_grid->isDragging());
+    sendMouse(m_grid, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(m_state->events()->getById(call.id)->start_time, at(10, 15));
+    const QList<Event> stored = m_state->events()->getByCalendar(AppState::kLocalCalendarId);
+    QCOMPARE(stored.size(), 2);
+    for (const Event &event : stored) {
+        if (event.title == QStringLiteral("Early"))
+            QCOMPARE(event.start_time, at(10, 8));
+    }
+}
+
+void TestTimelineView::readOnlyEventDoesNotMove()
+{
+    std::optional<Calendar> calendar = m_state->calendars()->getById(AppState::kLocalCalendarId);
+    QVERIFY(calendar);
+    calendar->is_read_only = true;
+    QVERIFY(m_state->calendars()->update(*calendar));
+    const Event created = add(QStringLiteral("Holiday feed"), at(10, 14), at(10, 15));
+    settle();
+    const QPoint from = toGrid(itemsOf(QStringLiteral("Holiday feed")).first().rect.center());
+    QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
+    drag(m_grid, from, from + QPoint(0, 2 * m_state->hourHeight()));
+    QCOMPARE(m_state->events()->getById(created.id)->start_time, at(10, 14));
+    QCOMPARE(m_state->undoStack()->count(), 0);
+    QCOMPARE(activated.count(), 1); // it still opens
+}
+
+void TestTimelineView::seriesDragAsksForScope()
+{
+    const Event master = add(QStringLiteral("Standup"), at(8, 9), at(8, 9, 30), false, QStringLiteral("FREQ=DAILY"));
+    settle();
+    QList<TimelineView::DrawnItem> items = itemsOf(QStringLiteral("Standup"));
+    QCOMPARE(items.size(), 7);
+    const QPoint from = toGrid(items.at(2).rect.center()); // Wednesday
+    const QPoint to = from + QPoint(0, m_state->hourHeight());
+
+    ScopeQuestionStandIn::answer().confirm = false;
+    drag(m_grid, from, to);
+    QCOMPARE(ScopeQuestionStandIn::answer().asked, QStringList{QStringLiteral("Move repeating event")});
+    QCOMPARE(m_state->undoStack()->count(), 0);
+
+    ScopeQuestionStandIn::answer().confirm = true;
+    ScopeQuestionStandIn::answer().scope = EventEditor::Scope::ThisEvent;
+    drag(m_grid, from, to);
+    QCOMPARE(m_state->undoStack()->count(), 1);
+    settle();
+    items = itemsOf(QStringLiteral("Standup"));
+    QCOMPARE(items.size(), 7);
+    for (const TimelineView::DrawnItem &item : std::as_const(items)) {
+        const QTime time = item.occurrence.start_time.toLocalTime().time();
+        QCOMPARE(time,
+                 item.occurrence.start_time.toLocalTime().date() == QDate(2024, 1, 10) ? QTime(10, 0) : QTime(9, 0));
+    }
+    QCOMPARE(m_state->events()->getById(master.id)->start_time, at(8, 9));
+}
+
+void TestTimelineView::allDayBarMovesByDays()
+{
+    const Event created = add(QStringLiteral("Offsite"), QDateTime(QDate(2024, 1, 8), QTime(0, 0), QTimeZone::utc()),
+                              QDateTime(QDate(2024, 1, 10), QTime(0, 0), QTimeZone::utc()), true);
+    settle();
+    auto *strip = m_view->findChild<AllDayStrip *>(QStringLiteral("allDayStrip"));
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    const QRect box = itemsOf(QStringLiteral("Offsite")).first().rect;
+    const QPoint from = strip->mapFrom(m_view.get(), QPoint(header->dayRect(0).center().x(), box.center().y()));
+    const QPoint to(header->dayRect(3).center().x(), from.y());
+    drag(strip, from, to);
+    const std::optional<Event> stored = m_state->events()->getById(created.id);
+    QCOMPARE(stored->start_time, QDateTime(QDate(2024, 1, 11), QTime(0, 0), QTimeZone::utc()));
+    QCOMPARE(*stored->end_time, QDateTime(QDate(2024, 1, 13), QTime(0, 0), QTimeZone::utc()));
+    QCOMPARE(m_state->undoStack()->count(), 1);
+}
+
+void TestTimelineView::doubleClickCreates_data()
+{
+    QTest::addColumn<int>("day");
+    QTest::addColumn<int>("minute");
+    QTest::addColumn<QDateTime>("start");
+    QTest::newRow("on the hour") << 0 << 9 * 60 << QDateTime(QDate(2024, 1, 8), QTime(9, 0));
+    QTest::newRow("snapped down") << 2 << 14 * 60 + 40 << QDateTime(QDate(2024, 1, 10), QTime(14, 30));
+    QTest::newRow("late evening") << 6 << 23 * 60 + 50 << QDateTime(QDate(2024, 1, 14), QTime(23, 45));
+}
+
+void TestTimelineView::doubleClickCreates()
+{
+    QFETCH(int, day);
+    QFETCH(int, minute);
+    QFETCH(QDateTime, start);
+    QSignalSpy requested(m_view.get(), &TimelineView::createRequested);
+    doubleClick(m_grid, gridPoint(day, minute));
+    QCOMPARE(requested.count(), 1);
+    QCOMPARE(requested.first().at(0).toDateTime(), start);
+    QCOMPARE(requested.first().at(1).toDateTime(), start.addSecs(3600));
+    QCOMPARE(requested.first().at(2).toBool(), false);
+}
+
+void TestTimelineView::sweepCreates_data()
+{
+    QTest::addColumn<int>("fromMinute");
+    QTest::addColumn<int>("toMinute");
+    QTest::addColumn<QTime>("start");
+    QTest::addColumn<QTime>("end");
+    QTest::newRow("down") << 9 * 60 + 7 << 10 * 60 + 40 << QTime(9, 0) << QTime(10, 45);
+    QTest::newRow("up") << 16 * 60 + 20 << 14 * 60 + 50 << QTime(14, 45) << QTime(16, 30);
+    QTest::newRow("short sweep keeps a quarter") << 12 * 60 + 1 << 12 * 60 + 9 << QTime(12, 0) << QTime(12, 15);
+}
+
+void TestTimelineView::sweepCreates()
+{
+    QFETCH(int, fromMinute);
+    QFETCH(int, toMinute);
+    QFETCH(QTime, start);
+    QFETCH(QTime, end);
+    QSignalSpy requested(m_view.get(), &TimelineView::createRequested);
+    // Sweeping also past the column border keeps the day it started on.
+    const QPoint from = gridPoint(4, fromMinute);
+    const QPoint to(gridPoint(5, 0).x(), gridPoint(4, toMinute).y());
+    drag(m_grid, from, to);
+    QCOMPARE(requested.count(), 1);
+    const QDate friday(2024, 1, 12);
+    QCOMPARE(requested.first().at(0).toDateTime(), QDateTime(friday, start));
+    QCOMPARE(requested.first().at(1).toDateTime(), QDateTime(friday, end));
+    QCOMPARE(requested.first().at(2).toBool(), false);
+}
+
+void TestTimelineView::allDayDoubleClickCreates()
+{
+    auto *strip = m_view->findChild<AllDayStrip *>(QStringLiteral("allDayStrip"));
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    QSignalSpy requested(m_view.get(), &TimelineView::createRequested);
+    doubleClick(strip, QPoint(header->dayRect(2).center().x(), strip->height() / 2));
+    QCOMPARE(requested.count(), 1);
+    QCOMPARE(requested.first().at(0).toDateTime(), QDate(2024, 1, 10).startOfDay());
+    QCOMPARE(requested.first().at(1).toDateTime(), QDate(2024, 1, 11).startOfDay());
+    QCOMPARE(requested.first().at(2).toBool(), true);
+}
+
+void TestTimelineView::clickSelectsAndEmptyClickClears()
+{
+    const Event standup = add(QStringLiteral("Standup"), at(8, 9), at(8, 9, 30), false, QStringLiteral("FREQ=DAILY"));
+    settle();
+    const QList<TimelineView::DrawnItem> items = itemsOf(QStringLiteral("Standup"));
+    click(m_grid, toGrid(items.at(1).rect.center()));
+    QCOMPARE(m_state->selectedEventId(), standup.id);
+    // Only the occurrence clicked carries the ring, not the whole series.
+    int selected = 0;
+    for (const TimelineView::DrawnItem &item : m_view->drawnItems())
+        selected += item.selected ? 1 : 0;
+    QCOMPARE(selected, 1);
+    QVERIFY(itemsOf(QStringLiteral("Standup")).at(1).selected);
+    click(m_grid, gridPoint(4, 15 * 60));
+    QVERIFY(m_state->selectedEventId().isEmpty());
+}
+
+void TestTimelineView::dimmedEventsDrawnDimmed()
+{
+    FilterRule rule;
+    rule.id = QStringLiteral("dim-lunch");
+    rule.name = QStringLiteral("Dim lunch");
+    rule.conditions = QStringLiteral(R"({"runtimeType":"pattern","titleContains":["Lunch"]})");
+    rule.action = QStringLiteral("dim");
+    QVERIFY(m_state->filterRules()->insert(rule));
+    add(QStringLiteral("Lunch"), at(11, 12), at(11, 13));
+    add(QStringLiteral("Workshop"), at(12, 12), at(12, 13));
+    settle();
+    m_view->scrollToTime(QTime(11, 0));
+    QCoreApplication::processEvents();
+    const TimelineView::DrawnItem lunch = itemsOf(QStringLiteral("Lunch")).first();
+    const TimelineView::DrawnItem workshop = itemsOf(QStringLiteral("Workshop")).first();
+    QVERIFY(lunch.dimmed);
+    QVERIFY(!workshop.dimmed);
+
+    // Pixels: an empty spot of each block's fill, near its bottom right; same calendar colour in both.
+    const QImage image = m_view->grab().toImage();
+    const QPoint lunchSpot = lunch.rect.bottomRight() - QPoint(4, 4);
+    const QPoint workshopSpot = workshop.rect.bottomRight() - QPoint(4, 4);
+    QVERIFY(m_view->rect().contains(lunchSpot) && m_view->rect().contains(workshopSpot));
+    const ThemeManager::Colors &colors = m_state->theme()->colors();
+    const QColor fill = EventBlockPainter::blockFill(m_cache->colorOf(workshop.occurrence), colors, false);
+    const QColor full = image.pixelColor(workshopSpot);
+    const QColor dimmed = image.pixelColor(lunchSpot);
+    QVERIFY2(colorDistance(full, fill) <= 3, qPrintable(QStringLiteral("%1 vs %2").arg(full.name(), fill.name())));
+    // Dimmed means about 40% of the block over the surface.
+    const qreal alpha = EventBlockPainter::kDimmedOpacity;
+    const QColor surface = colors.surface;
+    const QColor expected(int(surface.red() + (fill.red() - surface.red()) * alpha),
+                          int(surface.green() + (fill.green() - surface.green()) * alpha),
+                          int(surface.blue() + (fill.blue() - surface.blue()) * alpha));
+    QVERIFY2(colorDistance(dimmed, expected) <= 4,
+             qPrintable(QStringLiteral("%1 vs %2").arg(dimmed.name(), expected.name())));
+    QVERIFY(colorDistance(dimmed, surface) < colorDistance(full, surface));
+}
+
+void TestTimelineView::hiddenCountReachesAppState()
+{
+    FilterRule rule;
+    rule.id = QStringLiteral("hide-secret");
+    rule.name = QStringLiteral("Hide secret");
+    rule.conditions = QStringLiteral(R"({"runtimeType":"pattern","titleContains":["Secret"]})");
+    rule.action = QStringLiteral("hide");
+    QVERIFY(m_state->filterRules()->insert(rule));
+    add(QStringLiteral("Secret one"), at(9, 12), at(9, 13));
+    add(QStringLiteral("Secret two"), at(10, 12), at(10, 13));
+    add(QStringLiteral("Secret next week"), at(16, 12), at(16, 13));
+    add(QStringLiteral("Public"), at(10, 15), at(10, 16));
+    settle();
+    QCOMPARE(m_state->filterHiddenCount(), 2);
+    QVERIFY(itemsOf(QStringLiteral("Secret one")).isEmpty());
+    QCOMPARE(itemsOf(QStringLiteral("Public")).size(), 1);
+    m_view->setDays(kMonday.addDays(7), 7);
+    QCOMPARE(m_state->filterHiddenCount(), 1);
+    // A hidden view leaves the count to the view on screen.
+    m_view->hide();
+    m_view->setDays(kMonday, 7);
+    QCOMPARE(m_state->filterHiddenCount(), 1);
+    m_view->show();
+    QCOMPARE(m_state->filterHiddenCount(), 2);
+}
+
+void TestTimelineView::hourLabelsFollowTimeFormat_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("hour");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("12-hour morning") << "12" << 9 << "9 AM";
+    QTest::newRow("12-hour noon") << "12" << 12 << "12 PM";
+    QTest::newRow("12-hour afternoon") << "12" << 13 << "1 PM";
+    QTest::newRow("24-hour morning") << "24" << 9 << "09:00";
+    QTest::newRow("24-hour afternoon") << "24" << 13 << "13:00";
+    QTest::newRow("unset is 12-hour") << "" << 23 << "11 PM";
+}
+
+void TestTimelineView::hourLabelsFollowTimeFormat()
+{
+    QFETCH(QString, format);
+    QFETCH(int, hour);
+    QFETCH(QString, label);
+    if (format.isEmpty())
+        QVERIFY(m_state->preferences()->remove(QStringLiteral("ui/timeFormat")));
+    else
+        QVERIFY(m_state->preferences()->setValue(QStringLiteral("ui/timeFormat"), format));
+    QCOMPARE(m_grid->hourLabel(hour), label);
+}
+
+void TestTimelineView::ctrlWheelZoomsKeepingTimeUnderPointer()
+{
+    QScrollBar *bar = m_view->findChild<QScrollArea *>()->verticalScrollBar();
+    m_view->scrollToTime(QTime(8, 0));
+    const int before = m_state->hourHeight();
+    QCOMPARE(before, AppState::kMinHourHeight);
+    const QPoint pointer = gridPoint(2, 11 * 60);
+    const double minuteBefore = TimelineMath::minuteAt(pointer.y(), before);
+    const int viewportY = pointer.y() - bar->value();
+    QSignalSpy changed(m_state.get(), &AppState::hourHeightChanged);
+    QWheelEvent wheel(QPointF(pointer), QPointF(m_grid->mapToGlobal(pointer)), QPoint(), QPoint(0, 240), Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_grid, &wheel);
+    QCOMPARE(changed.count(), 1);
+    const int after = m_state->hourHeight();
+    QVERIFY(after > before);
+    QCOMPARE(m_grid->height(), 24 * after + 1);
+    const double minuteAfter = TimelineMath::minuteAt(bar->value() + viewportY, after);
+    QVERIFY2(std::abs(minuteAfter - minuteBefore) < 1.5,
+             qPrintable(QStringLiteral("%1 vs %2").arg(minuteAfter).arg(minuteBefore)));
+
+    // Without Ctrl the wheel scrolls and leaves the zoom alone; zooming out stops at the minimum.
+    QWheelEvent plain(QPointF(pointer), QPointF(m_grid->mapToGlobal(pointer)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_grid, &plain);
+    QCOMPARE(m_state->hourHeight(), after);
+    for (int i = 0; i < 10; ++i) {
+        QWheelEvent out(QPointF(pointer), QPointF(m_grid->mapToGlobal(pointer)), QPoint(), QPoint(0, -240),
+                        Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(m_grid, &out);
+    }
+    QCOMPARE(m_state->hourHeight(), AppState::kMinHourHeight);
+}
+
+void TestTimelineView::zoomFromElsewhereResizesGrid()
+{
+    add(QStringLiteral("Planning"), at(9, 10), at(9, 11));
+    settle();
+    m_state->setHourHeight(120);
+    QCOMPARE(m_grid->height(), 24 * 120 + 1);
+    const QRect box = itemsOf(QStringLiteral("Planning")).first().rect;
+    QVERIFY(std::abs(box.height() - 120) <= 2);
+    QCOMPARE(toGrid(box.topLeft()).y(), 10 * 120 + 1);
+}
+
+void TestTimelineView::currentTimeLineFollowsClock()
+{
+    const int hour = m_state->hourHeight();
+    QCOMPARE(m_grid->nowLineY(), TimelineMath::yAt(10 * 60 + 30, hour));
+    Clock::setFixedNow(at(10, 15, 45));
+    QCOMPARE(m_grid->nowLineY(), TimelineMath::yAt(15 * 60 + 45, hour));
+    // Drawn in the colour of the line, across today's column.
+    m_view->scrollToTime(QTime(15, 0));
+    QCoreApplication::processEvents();
+    const QImage image = m_grid->grab().toImage();
+    const auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    const int x = header->dayRect(2).center().x();
+    QCOMPARE(image.pixelColor(x, m_grid->nowLineY()).rgb(), m_state->theme()->colors().nowLine.rgb());
+    QVERIFY(image.pixelColor(header->dayRect(4).center().x(), m_grid->nowLineY()).rgb()
+            != m_state->theme()->colors().nowLine.rgb());
+    m_view->setDays(kMonday.addDays(7), 7);
+    QCOMPARE(m_grid->nowLineY(), -1);
+}
+
+void TestTimelineView::headerClickActivatesDay()
+{
+    auto *header = m_view->findChild<TimelineHeader *>(QStringLiteral("timelineHeader"));
+    QSignalSpy activated(m_view.get(), &TimelineView::dayActivated);
+    click(header, header->dayRect(4).center());
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(activated.first().first().toDate(), QDate(2024, 1, 12));
+}
+
+void TestTimelineView::keyboardWalksThroughEvents()
+{
+    const Event holiday = add(QStringLiteral("Holiday"), QDateTime(QDate(2024, 1, 8), QTime(0, 0), QTimeZone::utc()),
+                              QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()), true);
+    const Event design = add(QStringLiteral("Design"), at(9, 10), at(9, 11));
+    const Event review = add(QStringLiteral("Review"), at(10, 20), at(10, 21));
+    settle();
+    m_view->scrollToTime(QTime(8, 0));
+    m_grid->setFocus();
+    // All-day bars first, then the timed events in the order of the days.
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), holiday.id);
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), design.id);
+    QScrollBar *bar = m_view->findChild<QScrollArea *>()->verticalScrollBar();
+    const int before = bar->value();
+    QTest::keyClick(m_grid, Qt::Key_Tab);
+    QCOMPARE(m_state->selectedEventId(), review.id);
+    QVERIFY(bar->value() > before); // scrolled to bring 20:00 into view
+    QTest::keyClick(m_grid, Qt::Key_Backtab);
+    QCOMPARE(m_state->selectedEventId(), design.id);
+
+    QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
+    QTest::keyClick(m_grid, Qt::Key_Return);
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(activated.first().first().value<Event>().id, design.id);
+
+    const int top = bar->value();
+    QTest::keyClick(m_grid, Qt::Key_Down);
+    QCOMPARE(bar->value(), top + m_state->hourHeight() / 2);
+    QTest::keyClick(m_grid, Qt::Key_Up);
+    QCOMPARE(bar->value(), top);
+}
+
+QTEST_MAIN(TestTimelineView)
+#include "tst_timelineview.moc"
