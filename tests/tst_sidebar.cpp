@@ -262,7 +262,7 @@ void TestSidebar::calendarsAreGroupedByAccount()
     QVERIFY(m_state->accounts()->insert(empty));
     QCOMPARE(list->sizeHint().height(), before); // no calendars, no header
 
-    seedSampleData(*m_state->database(), *m_state->events(), *m_state->tasks());
+    seedSampleData(*m_state->accounts(), *m_state->calendars(), *m_state->events(), *m_state->tasks());
     m_state->calendars()->calendarsChanged(); // the seeding writes behind the repository's back
     const QRect personal = list->rowRect(AppState::kLocalCalendarId);
     const QRect work = list->rowRect(QStringLiteral("sample-cal-work"));

@@ -5,6 +5,7 @@
 #include "app/NotificationService.h"
 #include "app/UndoStack.h"
 #include "ical/NLParser.h"
+#include "storage/AccountRepository.h"
 #include "storage/CalendarChoice.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Clock.h"
@@ -513,9 +514,7 @@ void MainWindow::syncNow()
 
 void MainWindow::addSampleData()
 {
-    seedSampleData(*m_appState->database(), *m_appState->events(), *m_appState->tasks());
-    emit m_appState->calendars()->calendarsChanged();
-    emit m_appState->accounts()->accountsChanged();
+    seedSampleData(*m_appState->accounts(), *m_appState->calendars(), *m_appState->events(), *m_appState->tasks());
     showStatus(tr("Sample data added."), 4000);
 }
 
@@ -527,8 +526,9 @@ void MainWindow::clearSampleData()
     if (answer != QMessageBox::Yes)
         return;
     const int removed = removeSampleData(*m_appState->database());
+    // The removal runs plain statements; everything that shows calendars is told as if the
+    // repositories had written.
     emit m_appState->calendars()->calendarsChanged();
     emit m_appState->accounts()->accountsChanged();
-    m_cache->invalidate();
     showStatus(tr("Removed %1 sample items.").arg(removed), 4000);
 }
