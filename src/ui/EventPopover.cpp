@@ -16,7 +16,9 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
@@ -141,14 +143,16 @@ QLabel *EventPopover::Private::addDetail(QWidget *owner, int row, char16_t glyph
 }
 
 EventPopover::EventPopover(AppState *appState, SpanCache *cache, EventEditor *editor, QWidget *parent)
-    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint)
+    : QFrame(parent)
     , d(std::make_unique<Private>())
 {
     d->appState = appState;
     d->cache = cache;
     d->editor = editor;
     setObjectName(QStringLiteral("EventPopover"));
-    setAttribute(Qt::WA_TranslucentBackground);
+    // A card drawn over the window it belongs to, not a window of its own: its rounded corners and
+    // shadow then blend with what is beneath on every desktop, composited or not.
+    hide();
     setFixedWidth(kCardWidth + 2 * kShadow);
 
     auto *outer = new QVBoxLayout(this);
@@ -365,15 +369,19 @@ void EventPopover::showFor(const Event &occurrence, const QRect &anchor)
     applyTheme();
     adjustSize();
 
-    const QScreen *screen = QGuiApplication::screenAt(anchor.center());
-    if (!screen)
-        screen = parentWidget() ? parentWidget()->screen() : QGuiApplication::primaryScreen();
-    const QRect available = screen ? screen->availableGeometry() : QRect(0, 0, 1920, 1080);
+    QRect available;
+    if (QWidget *host = parentWidget()) {
+        available = QRect(host->mapToGlobal(QPoint(0, 0)), host->size());
+    } else {
+        const QScreen *screen = QGuiApplication::screenAt(anchor.center());
+        available = screen ? screen->availableGeometry() : QRect(0, 0, 1920, 1080);
+    }
     const QRect card = placement(anchor, QSize(kCardWidth, height() - 2 * kShadow), available);
-    move(card.topLeft() - QPoint(kShadow, kShadow));
+    const QPoint topLeft = card.topLeft() - QPoint(kShadow, kShadow);
+    move(parentWidget() ? parentWidget()->mapFromGlobal(topLeft) : topLeft);
     show();
     raise();
-    activateWindow();
+    qApp->installEventFilter(this);
     if (!readOnly)
         d->editButton->setFocus();
     else
@@ -430,6 +438,25 @@ void EventPopover::deleteOccurrence()
             return;
     }
     d->editor->remove(occurrence, scope);
+}
+
+bool EventPopover::eventFilter(QObject *watched, QEvent *event)
+{
+    // A press anywhere outside the card closes it and goes on to what was pressed, so a click on
+    // another event opens that one straight away.
+    if (isVisible() && event->type() == QEvent::MouseButtonPress) {
+        const auto *press = static_cast<QMouseEvent *>(event);
+        const QRect card = QRect(mapToGlobal(QPoint(0, 0)), size()).adjusted(kShadow, kShadow, -kShadow, -kShadow);
+        if (!card.contains(press->globalPosition().toPoint()))
+            hide();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void EventPopover::hideEvent(QHideEvent *event)
+{
+    qApp->removeEventFilter(this);
+    QFrame::hideEvent(event);
 }
 
 void EventPopover::keyPressEvent(QKeyEvent *event)
