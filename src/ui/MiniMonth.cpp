@@ -83,7 +83,14 @@ MiniMonth::MiniMonth(AppState *appState, SpanCache *cache, QWidget *parent)
     connect(appState->theme(), &ThemeManager::themeChanged, this, &MiniMonth::applyTheme);
     connect(cache, &SpanCache::invalidated, this, [this] {
         m_dotsStale = true;
-        if (isVisible()) {
+        refreshDots();
+    });
+    // Dots of a month that is not cached yet are read after the step has been painted, so that
+    // moving through the calendar never waits for them.
+    m_dotsTimer.setSingleShot(true);
+    m_dotsTimer.setInterval(0);
+    connect(&m_dotsTimer, &QTimer::timeout, this, [this] {
+        if (m_dotsStale && isVisible()) {
             loadDots();
             update();
         }
@@ -112,9 +119,20 @@ void MiniMonth::showMonth(const QDate &date)
     m_month = month;
     m_first = MonthLayout::gridFor(month, m_appState->firstDayOfWeek()).first;
     m_dotsStale = true;
-    if (isVisible())
-        loadDots();
+    refreshDots();
     update();
+}
+
+void MiniMonth::refreshDots()
+{
+    if (!isVisible())
+        return;
+    if (m_cache->isCached(m_first, kGridDays)) {
+        loadDots();
+        update();
+    } else {
+        m_dotsTimer.start();
+    }
 }
 
 void MiniMonth::loadDots() const
@@ -355,7 +373,7 @@ void MiniMonth::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     if (m_dotsStale)
-        loadDots();
+        refreshDots();
 }
 
 void MiniMonth::mousePressEvent(QMouseEvent *event)

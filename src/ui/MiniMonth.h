@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QList>
 #include <QRect>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -61,6 +62,8 @@ protected:
 private:
     // Reads the days with events from the span cache (never while painting).
     void loadDots() const;
+    // Reads the dots now when the month is cached, else on the next turn of the event loop.
+    void refreshDots();
     void applyTheme();
     QRect gridRect() const;
     QDate dayAt(const QPoint &pos) const;
@@ -73,6 +76,7 @@ private:
     QDate m_first;
     mutable std::array<bool, 42> m_dots{};
     mutable bool m_dotsStale = true;
+    QTimer m_dotsTimer;
     bool m_weekNumbers = false; // "ui/showWeekNumbers", kept so that painting reads no database
     QDate m_pressed;
     QDate m_hover;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/MonthLayout.h"
 
+#include "ui/LocalDates.h"
+
 #include "ui/EventLayout.h"
 
 #include <QLocale>
@@ -61,11 +63,11 @@ std::pair<QDate, QDate> coveredDays(const Event &occurrence)
         }
         return {first, std::max(first, last)};
     }
-    const QDate first = occurrence.start_time.toLocalTime().date();
+    const QDate first = LocalDates::dateOf(occurrence.start_time);
     if (!occurrence.end_time || !(*occurrence.end_time > occurrence.start_time))
         return {first, first};
     // The end is exclusive: an event ending at midnight does not touch the next day.
-    const QDate last = occurrence.end_time->toLocalTime().addMSecs(-1).date();
+    const QDate last = LocalDates::dateOf(occurrence.end_time->toMSecsSinceEpoch() - 1);
     return {first, std::max(first, last)};
 }
 

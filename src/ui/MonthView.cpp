@@ -40,6 +40,11 @@ public:
 
     void ensureLoaded();
     void reload();
+    // The week rows of a span, from the few kept ones when it was laid out before.
+    QList<MonthLayout::WeekLayout> weeksFor(const std::shared_ptr<const SpanData> &span);
+    // Lays out the months before and after while the program is idle, so that stepping to them
+    // paints from memory.
+    void prepareNeighbours();
     void regrid();
     void relayout();
     // Reads the preferences the view draws with; painting never reads the database.
@@ -91,6 +96,15 @@ public:
     QDate pressTargetDay;
 
     QTimer dayTimer;
+
+    struct KeptLayout
+    {
+        std::shared_ptr<const SpanData> span;
+        QList<MonthLayout::WeekLayout> weeks;
+    };
+    static constexpr int kKeptLayouts = 4;
+    QList<KeptLayout> keptLayouts; // most recently used last
+    QTimer neighbourTimer;
 };
 
 void MonthView::Private::ensureLoaded()
@@ -106,11 +120,39 @@ void MonthView::Private::reload()
     hover = -1;
     today = Clock::nowLocal().date();
     data = cache->span(first, days);
-    weeks = MonthLayout::layoutWeeks(data->contents.occurrences, first, kWeeksPerGrid);
+    weeks = weeksFor(data);
     relayout();
-    if (q->isVisible())
+    if (q->isVisible()) {
         state->setFilterHiddenCount(data->contents.hiddenCount);
+        neighbourTimer.start();
+    }
     q->update();
+}
+
+QList<MonthLayout::WeekLayout> MonthView::Private::weeksFor(const std::shared_ptr<const SpanData> &span)
+{
+    for (qsizetype i = 0; i < keptLayouts.size(); ++i) {
+        if (keptLayouts.at(i).span == span) {
+            keptLayouts.move(i, keptLayouts.size() - 1);
+            return keptLayouts.constLast().weeks;
+        }
+    }
+    keptLayouts.append({span, MonthLayout::layoutWeeks(span->contents.occurrences, span->firstDay, kWeeksPerGrid)});
+    while (keptLayouts.size() > kKeptLayouts)
+        keptLayouts.removeFirst();
+    return keptLayouts.constLast().weeks;
+}
+
+void MonthView::Private::prepareNeighbours()
+{
+    if (!q->isVisible() || !month.isValid() || !data)
+        return;
+    for (const int direction : {1, -1}) {
+        const auto [neighbourFirst, neighbourDays] = gridFor(month.addMonths(direction), state->firstDayOfWeek());
+        weeksFor(cache->span(neighbourFirst, neighbourDays));
+    }
+    // The one on screen stays the most recent.
+    weeksFor(data);
 }
 
 // The grid depends on the first day of the week; the month and the focused day stay.
@@ -307,7 +349,11 @@ MonthView::MonthView(AppState *appState, SpanCache *cache, EventEditor *editor, 
     d->today = Clock::nowLocal().date();
     d->readPreferences();
 
+    d->neighbourTimer.setSingleShot(true);
+    d->neighbourTimer.setInterval(0);
+    connect(&d->neighbourTimer, &QTimer::timeout, this, [this] { d->prepareNeighbours(); });
     connect(cache, &SpanCache::invalidated, this, [this] {
+        d->keptLayouts.clear();
         if (isVisible())
             d->reload();
         else
