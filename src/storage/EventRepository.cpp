@@ -157,10 +157,6 @@ Attendee readAttendee(const QSqlQuery &query, int first)
     return attendee;
 }
 
-void warn(const char *what, const QSqlError &error)
-{
-    qCWarning(lcRepository).noquote() << what << error.text();
-}
 
 } // namespace
 
@@ -188,10 +184,8 @@ void EventRepository::notifyChanged(const QString &calendarId)
 QList<Event> EventRepository::selectEvents(const char *operation, const QString &sql, const QVariantList &values,
                                            bool withChildRows) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(sql, &error);
-    if (!query || !execute(*query, values)) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(sql, values, operation);
+    if (!query) {
         return {};
     }
     QList<Event> events;
@@ -206,10 +200,8 @@ QList<Event> EventRepository::selectEvents(const char *operation, const QString 
 std::optional<Event> EventRepository::selectEvent(const char *operation, const QString &sql,
                                                   const QVariantList &values) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(sql, &error);
-    if (!query || !execute(*query, values)) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(sql, values, operation);
+    if (!query) {
         return std::nullopt;
     }
     std::optional<Event> event;
@@ -230,7 +222,7 @@ void EventRepository::loadChildRows(Event &event) const
         }
         query->finish();
     } else {
-        warn("EventRepository::getById reminders failed:", query ? query->lastError() : error);
+        SqlSupport::logFailure("EventRepository::getById reminders failed:", query ? query->lastError() : error);
     }
     if (QSqlQuery *query = m_statements->prepare(kAttendeeRows, &error); query && execute(*query, {event.id})) {
         while (query->next()) {
@@ -240,7 +232,7 @@ void EventRepository::loadChildRows(Event &event) const
         }
         query->finish();
     } else {
-        warn("EventRepository::getById attendees failed:", query ? query->lastError() : error);
+        SqlSupport::logFailure("EventRepository::getById attendees failed:", query ? query->lastError() : error);
     }
 }
 
@@ -283,7 +275,7 @@ void EventRepository::loadChildRows(QList<Event> &events) const
             }
             query->finish();
         } else {
-            warn("EventRepository reminder rows failed:", query ? query->lastError() : error);
+            SqlSupport::logFailure("EventRepository reminder rows failed:", query ? query->lastError() : error);
         }
         if (QSqlQuery *query = statement(kAttendeeBatch.arg(marks)); query && execute(*query, ids)) {
             while (query->next()) {
@@ -293,7 +285,7 @@ void EventRepository::loadChildRows(QList<Event> &events) const
             }
             query->finish();
         } else {
-            warn("EventRepository attendee rows failed:", query ? query->lastError() : error);
+            SqlSupport::logFailure("EventRepository attendee rows failed:", query ? query->lastError() : error);
         }
     }
     if (reminders.isEmpty() && attendees.isEmpty())
@@ -393,10 +385,8 @@ bool EventRepository::insert(const Event &event)
     const QDateTime lastModified = event.last_modified.isValid() ? event.last_modified : Clock::nowUtc();
     const QString status = event.sync_status.isEmpty() ? QStringLiteral("synced") : event.sync_status;
 
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(insertSql(), &error);
-    if (!query || !execute(*query, rowValues(event, status, created, lastModified))) {
-        warn("EventRepository::insert failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(insertSql(), rowValues(event, status, created, lastModified), "EventRepository::insert failed:");
+    if (!query) {
         return false;
     }
     writeChildRows(event);
@@ -411,10 +401,8 @@ bool EventRepository::update(const Event &event)
     values.removeFirst(); // id goes last, into the WHERE clause
     values.append(event.id);
 
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(updateSql(), &error);
-    if (!query || !execute(*query, values)) {
-        warn("EventRepository::update failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(updateSql(), values, "EventRepository::update failed:");
+    if (!query) {
         return false;
     }
     if (query->numRowsAffected() < 1) {
@@ -429,10 +417,8 @@ bool EventRepository::update(const Event &event)
 void EventRepository::writeChildRows(const Event &event)
 {
     QSqlError error;
-    QSqlQuery *remove = m_statements->prepare(QStringLiteral("DELETE FROM reminders WHERE event_id = ?"), &error);
-    if (!remove || !execute(*remove, {event.id})) {
-        warn("writeReminderRows delete failed:", remove ? remove->lastError() : error);
-    } else {
+    if (m_statements->run(QStringLiteral("DELETE FROM reminders WHERE event_id = ?"), {event.id},
+                          "writeReminderRows delete failed:")) {
         QSqlQuery *insert = m_statements->prepare(
             QStringLiteral("INSERT INTO reminders (id, event_id, minutes_before, action, acknowledged, trigger_time) "
                            "VALUES (?, ?, ?, ?, ?, ?)"),
@@ -450,17 +436,15 @@ void EventRepository::writeChildRows(const Event &event)
                 dateTimeValue(std::optional<QDateTime>(trigger)),
             };
             if (!insert || !execute(*insert, values)) {
-                warn("writeReminderRows insert failed:", insert ? insert->lastError() : error);
+                SqlSupport::logFailure("writeReminderRows insert failed:", insert ? insert->lastError() : error);
                 break;
             }
         }
     }
 
-    remove = m_statements->prepare(QStringLiteral("DELETE FROM attendees WHERE event_id = ?"), &error);
-    if (!remove || !execute(*remove, {event.id})) {
-        warn("writeAttendeeRows delete failed:", remove ? remove->lastError() : error);
+    if (!m_statements->run(QStringLiteral("DELETE FROM attendees WHERE event_id = ?"), {event.id},
+                           "writeAttendeeRows delete failed:"))
         return;
-    }
     QSqlQuery *insert = m_statements->prepare(
         QStringLiteral("INSERT INTO attendees (id, event_id, email, name, role, status, type, rsvp) VALUES (?, ?, ?, "
                        "?, ?, ?, ?, ?)"),
@@ -477,7 +461,7 @@ void EventRepository::writeChildRows(const Event &event)
             StorageFormat::boolValue(attendee.rsvp),
         };
         if (!insert || !execute(*insert, values)) {
-            warn("writeAttendeeRows insert failed:", insert ? insert->lastError() : error);
+            SqlSupport::logFailure("writeAttendeeRows insert failed:", insert ? insert->lastError() : error);
             return;
         }
     }
@@ -485,10 +469,8 @@ void EventRepository::writeChildRows(const Event &event)
 
 std::optional<QString> EventRepository::calendarOf(const char *operation, const QString &id) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(kSelectCalendar, &error);
-    if (!query || !execute(*query, {id})) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(kSelectCalendar, {id}, operation);
+    if (!query) {
         return std::nullopt;
     }
     std::optional<QString> calendarId;
@@ -504,12 +486,8 @@ bool EventRepository::remove(const QString &id)
     if (!calendarId)
         return false;
     const QString now = StorageFormat::dateTimeText(Clock::nowUtc());
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(
-        QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"),
-        &error);
-    if (!query || !execute(*query, {now, now, id})) {
-        warn("EventRepository::remove failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"), {now, now, id}, "EventRepository::remove failed:");
+    if (!query) {
         return false;
     }
     notifyChanged(*calendarId);
@@ -521,20 +499,13 @@ bool EventRepository::hardDelete(const QString &id)
     const std::optional<QString> calendarId = calendarOf("EventRepository::hardDelete failed:", id);
     if (!calendarId)
         return false;
-    QSqlError error;
     for (const char *table : {"attendees", "attachments", "reminders"}) {
-        QSqlQuery *query = m_statements->prepare(
-            QStringLiteral("DELETE FROM %1 WHERE event_id = ?").arg(QLatin1String(table)), &error);
-        if (!query || !execute(*query, {id})) {
-            warn("EventRepository::hardDelete child cleanup failed:", query ? query->lastError() : error);
+        if (!m_statements->run(QStringLiteral("DELETE FROM %1 WHERE event_id = ?").arg(QLatin1String(table)), {id},
+                               "EventRepository::hardDelete child cleanup failed:"))
             return false;
-        }
     }
-    QSqlQuery *query = m_statements->prepare(QStringLiteral("DELETE FROM events WHERE id = ?"), &error);
-    if (!query || !execute(*query, {id})) {
-        warn("EventRepository::hardDelete failed:", query ? query->lastError() : error);
+    if (!m_statements->run(QStringLiteral("DELETE FROM events WHERE id = ?"), {id}, "EventRepository::hardDelete failed:"))
         return false;
-    }
     notifyChanged(*calendarId);
     return true;
 }
@@ -544,11 +515,8 @@ bool EventRepository::markSynced(const QString &id, const QString &href, const Q
     const std::optional<QString> calendarId = calendarOf("EventRepository::markSynced failed:", id);
     if (!calendarId)
         return false;
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(
-        QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), &error);
-    if (!query || !execute(*query, {href, etag, id})) {
-        warn("EventRepository::markSynced failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), {href, etag, id}, "EventRepository::markSynced failed:");
+    if (!query) {
         return false;
     }
     notifyChanged(*calendarId);

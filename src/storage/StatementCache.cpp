@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/StatementCache.h"
 
+#include "storage/SqlSupport.h"
+
 #include "storage/Database.h"
 
 StatementCache::StatementCache(Database *database)
@@ -25,5 +27,16 @@ QSqlQuery *StatementCache::prepare(const QString &sql, QSqlError *error)
         return nullptr;
     }
     m_statements.insert(sql, query);
+    return query;
+}
+
+QSqlQuery *StatementCache::run(const QString &sql, const QVariantList &values, const char *failure)
+{
+    QSqlError error;
+    QSqlQuery *query = prepare(sql, &error);
+    if (!query || !SqlSupport::execute(*query, values)) {
+        SqlSupport::logFailure(failure, query ? query->lastError() : error);
+        return nullptr;
+    }
     return query;
 }

@@ -5,6 +5,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QString>
+#include <QVariantList>
 
 class Database;
 
@@ -27,6 +28,9 @@ public:
     // The prepared statement for `sql`, or null when it cannot be prepared; then `error` holds
     // the reason and nothing is kept.
     QSqlQuery *prepare(const QString &sql, QSqlError *error);
+    // Prepares `sql`, binds `values` in order and executes it. On failure logs `failure` (for
+    // example "EventRepository::remove failed:") with the database error and returns null.
+    QSqlQuery *run(const QString &sql, const QVariantList &values, const char *failure);
 
 private:
     Database *m_database;

@@ -96,10 +96,6 @@ Task readTask(const QSqlQuery &query)
     return task;
 }
 
-void warn(const char *what, const QSqlError &error)
-{
-    qCWarning(lcRepository).noquote() << what << error.text();
-}
 
 // The start of the first occurrence of the task's rule strictly after `anchor`, looked for
 // within five years; invalid when there is none.
@@ -143,10 +139,8 @@ void TaskRepository::notifyChanged(const QString &calendarId)
 
 QList<Task> TaskRepository::selectTasks(const char *operation, const QString &sql, const QVariantList &values) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(sql, &error);
-    if (!query || !execute(*query, values)) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(sql, values, operation);
+    if (!query) {
         return {};
     }
     QList<Task> tasks;
@@ -159,10 +153,8 @@ QList<Task> TaskRepository::selectTasks(const char *operation, const QString &sq
 std::optional<Task> TaskRepository::selectTask(const char *operation, const QString &sql,
                                                const QVariantList &values) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(sql, &error);
-    if (!query || !execute(*query, values)) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(sql, values, operation);
+    if (!query) {
         return std::nullopt;
     }
     std::optional<Task> task;
@@ -234,10 +226,8 @@ bool TaskRepository::insert(const Task &task)
     const QDateTime lastModified = task.last_modified.isValid() ? task.last_modified : Clock::nowUtc();
     const QString status = task.sync_status.isEmpty() ? QStringLiteral("synced") : task.sync_status;
 
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(kInsert, &error);
-    if (!query || !execute(*query, rowValues(task, status, created, lastModified))) {
-        warn("TaskRepository::insert failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(kInsert, rowValues(task, status, created, lastModified), "TaskRepository::insert failed:");
+    if (!query) {
         return false;
     }
     notifyChanged(task.calendar_id);
@@ -251,10 +241,8 @@ bool TaskRepository::update(const Task &task)
     values.removeFirst(); // id goes last, into the WHERE clause
     values.append(task.id);
 
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(kUpdate, &error);
-    if (!query || !execute(*query, values)) {
-        warn("TaskRepository::update failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(kUpdate, values, "TaskRepository::update failed:");
+    if (!query) {
         return false;
     }
     if (query->numRowsAffected() < 1) {
@@ -267,10 +255,8 @@ bool TaskRepository::update(const Task &task)
 
 std::optional<QString> TaskRepository::calendarOf(const char *operation, const QString &id) const
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(QStringLiteral("SELECT calendar_id FROM tasks WHERE id = ?"), &error);
-    if (!query || !execute(*query, {id})) {
-        warn(operation, query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("SELECT calendar_id FROM tasks WHERE id = ?"), {id}, operation);
+    if (!query) {
         return std::nullopt;
     }
     std::optional<QString> calendarId;
@@ -286,12 +272,8 @@ bool TaskRepository::remove(const QString &id)
     if (!calendarId)
         return false;
     const QString now = StorageFormat::dateTimeText(Clock::nowUtc());
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(
-        QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"),
-        &error);
-    if (!query || !execute(*query, {now, now, id})) {
-        warn("TaskRepository::remove failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"), {now, now, id}, "TaskRepository::remove failed:");
+    if (!query) {
         return false;
     }
     notifyChanged(*calendarId);
@@ -303,10 +285,8 @@ bool TaskRepository::hardDelete(const QString &id)
     const std::optional<QString> calendarId = calendarOf("TaskRepository::hardDelete failed:", id);
     if (!calendarId)
         return false;
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(QStringLiteral("DELETE FROM tasks WHERE id = ?"), &error);
-    if (!query || !execute(*query, {id})) {
-        warn("TaskRepository::hardDelete failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("DELETE FROM tasks WHERE id = ?"), {id}, "TaskRepository::hardDelete failed:");
+    if (!query) {
         return false;
     }
     notifyChanged(*calendarId);
@@ -315,11 +295,8 @@ bool TaskRepository::hardDelete(const QString &id)
 
 bool TaskRepository::markSynced(const QString &id, const QString &href, const QString &etag)
 {
-    QSqlError error;
-    QSqlQuery *query = m_statements->prepare(
-        QStringLiteral("UPDATE tasks SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), &error);
-    if (!query || !execute(*query, {href, etag, id})) {
-        warn("TaskRepository::markSynced failed:", query ? query->lastError() : error);
+    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE tasks SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), {href, etag, id}, "TaskRepository::markSynced failed:");
+    if (!query) {
         return false;
     }
     return query->numRowsAffected() > 0;
