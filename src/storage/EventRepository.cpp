@@ -157,7 +157,6 @@ Attendee readAttendee(const QSqlQuery &query, int first)
     return attendee;
 }
 
-
 } // namespace
 
 EventRepository::EventRepository(Database *database, QObject *parent)
@@ -385,10 +384,10 @@ bool EventRepository::insert(const Event &event)
     const QDateTime lastModified = event.last_modified.isValid() ? event.last_modified : Clock::nowUtc();
     const QString status = event.sync_status.isEmpty() ? QStringLiteral("synced") : event.sync_status;
 
-    QSqlQuery *query = m_statements->run(insertSql(), rowValues(event, status, created, lastModified), "EventRepository::insert failed:");
-    if (!query) {
+    QSqlQuery *query = m_statements->run(insertSql(), rowValues(event, status, created, lastModified),
+                                         "EventRepository::insert failed:");
+    if (!query)
         return false;
-    }
     writeChildRows(event);
     notifyChanged(event.calendar_id);
     return true;
@@ -402,9 +401,8 @@ bool EventRepository::update(const Event &event)
     values.append(event.id);
 
     QSqlQuery *query = m_statements->run(updateSql(), values, "EventRepository::update failed:");
-    if (!query) {
+    if (!query)
         return false;
-    }
     if (query->numRowsAffected() < 1) {
         qCWarning(lcRepository).noquote() << "EventRepository::update failed: no event with id" << event.id;
         return false;
@@ -469,15 +467,7 @@ void EventRepository::writeChildRows(const Event &event)
 
 std::optional<QString> EventRepository::calendarOf(const char *operation, const QString &id) const
 {
-    QSqlQuery *query = m_statements->run(kSelectCalendar, {id}, operation);
-    if (!query) {
-        return std::nullopt;
-    }
-    std::optional<QString> calendarId;
-    if (query->next())
-        calendarId = query->value(0).toString();
-    query->finish();
-    return calendarId;
+    return m_statements->firstText(kSelectCalendar, {id}, operation);
 }
 
 bool EventRepository::remove(const QString &id)
@@ -486,10 +476,11 @@ bool EventRepository::remove(const QString &id)
     if (!calendarId)
         return false;
     const QString now = StorageFormat::dateTimeText(Clock::nowUtc());
-    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"), {now, now, id}, "EventRepository::remove failed:");
-    if (!query) {
+    QSqlQuery *query = m_statements->run(
+        QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"),
+        {now, now, id}, "EventRepository::remove failed:");
+    if (!query)
         return false;
-    }
     notifyChanged(*calendarId);
     return true;
 }
@@ -504,7 +495,8 @@ bool EventRepository::hardDelete(const QString &id)
                                "EventRepository::hardDelete child cleanup failed:"))
             return false;
     }
-    if (!m_statements->run(QStringLiteral("DELETE FROM events WHERE id = ?"), {id}, "EventRepository::hardDelete failed:"))
+    if (!m_statements->run(QStringLiteral("DELETE FROM events WHERE id = ?"), {id},
+                           "EventRepository::hardDelete failed:"))
         return false;
     notifyChanged(*calendarId);
     return true;
@@ -515,10 +507,11 @@ bool EventRepository::markSynced(const QString &id, const QString &href, const Q
     const std::optional<QString> calendarId = calendarOf("EventRepository::markSynced failed:", id);
     if (!calendarId)
         return false;
-    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), {href, etag, id}, "EventRepository::markSynced failed:");
-    if (!query) {
+    QSqlQuery *query
+        = m_statements->run(QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
+                            {href, etag, id}, "EventRepository::markSynced failed:");
+    if (!query)
         return false;
-    }
     notifyChanged(*calendarId);
     return true;
 }

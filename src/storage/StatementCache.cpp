@@ -40,3 +40,15 @@ QSqlQuery *StatementCache::run(const QString &sql, const QVariantList &values, c
     }
     return query;
 }
+
+std::optional<QString> StatementCache::firstText(const QString &sql, const QVariantList &values, const char *failure)
+{
+    QSqlQuery *query = run(sql, values, failure);
+    if (!query)
+        return std::nullopt;
+    std::optional<QString> text;
+    if (query->next())
+        text = query->value(0).toString();
+    query->finish();
+    return text;
+}

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariantList>
 
+#include <optional>
+
 class Database;
 
 // Prepared statements of the database connection, kept for reuse and keyed by their SQL text, so
@@ -31,6 +33,9 @@ public:
     // Prepares `sql`, binds `values` in order and executes it. On failure logs `failure` (for
     // example "EventRepository::remove failed:") with the database error and returns null.
     QSqlQuery *run(const QString &sql, const QVariantList &values, const char *failure);
+    // The first column of the first row `sql` reads, as text; nothing when it reads no row or
+    // fails (the failure is logged as by run()).
+    std::optional<QString> firstText(const QString &sql, const QVariantList &values, const char *failure);
 
 private:
     Database *m_database;

@@ -96,7 +96,6 @@ Task readTask(const QSqlQuery &query)
     return task;
 }
 
-
 // The start of the first occurrence of the task's rule strictly after `anchor`, looked for
 // within five years; invalid when there is none.
 QDateTime nextOccurrence(const Task &task, const QDateTime &anchor)
@@ -226,10 +225,10 @@ bool TaskRepository::insert(const Task &task)
     const QDateTime lastModified = task.last_modified.isValid() ? task.last_modified : Clock::nowUtc();
     const QString status = task.sync_status.isEmpty() ? QStringLiteral("synced") : task.sync_status;
 
-    QSqlQuery *query = m_statements->run(kInsert, rowValues(task, status, created, lastModified), "TaskRepository::insert failed:");
-    if (!query) {
+    QSqlQuery *query
+        = m_statements->run(kInsert, rowValues(task, status, created, lastModified), "TaskRepository::insert failed:");
+    if (!query)
         return false;
-    }
     notifyChanged(task.calendar_id);
     return true;
 }
@@ -242,9 +241,8 @@ bool TaskRepository::update(const Task &task)
     values.append(task.id);
 
     QSqlQuery *query = m_statements->run(kUpdate, values, "TaskRepository::update failed:");
-    if (!query) {
+    if (!query)
         return false;
-    }
     if (query->numRowsAffected() < 1) {
         qCWarning(lcRepository).noquote() << "TaskRepository::update failed: no task with id" << task.id;
         return false;
@@ -255,15 +253,7 @@ bool TaskRepository::update(const Task &task)
 
 std::optional<QString> TaskRepository::calendarOf(const char *operation, const QString &id) const
 {
-    QSqlQuery *query = m_statements->run(QStringLiteral("SELECT calendar_id FROM tasks WHERE id = ?"), {id}, operation);
-    if (!query) {
-        return std::nullopt;
-    }
-    std::optional<QString> calendarId;
-    if (query->next())
-        calendarId = query->value(0).toString();
-    query->finish();
-    return calendarId;
+    return m_statements->firstText(QStringLiteral("SELECT calendar_id FROM tasks WHERE id = ?"), {id}, operation);
 }
 
 bool TaskRepository::remove(const QString &id)
@@ -272,10 +262,11 @@ bool TaskRepository::remove(const QString &id)
     if (!calendarId)
         return false;
     const QString now = StorageFormat::dateTimeText(Clock::nowUtc());
-    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"), {now, now, id}, "TaskRepository::remove failed:");
-    if (!query) {
+    QSqlQuery *query = m_statements->run(
+        QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?"),
+        {now, now, id}, "TaskRepository::remove failed:");
+    if (!query)
         return false;
-    }
     notifyChanged(*calendarId);
     return true;
 }
@@ -285,20 +276,21 @@ bool TaskRepository::hardDelete(const QString &id)
     const std::optional<QString> calendarId = calendarOf("TaskRepository::hardDelete failed:", id);
     if (!calendarId)
         return false;
-    QSqlQuery *query = m_statements->run(QStringLiteral("DELETE FROM tasks WHERE id = ?"), {id}, "TaskRepository::hardDelete failed:");
-    if (!query) {
+    QSqlQuery *query = m_statements->run(QStringLiteral("DELETE FROM tasks WHERE id = ?"), {id},
+                                         "TaskRepository::hardDelete failed:");
+    if (!query)
         return false;
-    }
     notifyChanged(*calendarId);
     return true;
 }
 
 bool TaskRepository::markSynced(const QString &id, const QString &href, const QString &etag)
 {
-    QSqlQuery *query = m_statements->run(QStringLiteral("UPDATE tasks SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"), {href, etag, id}, "TaskRepository::markSynced failed:");
-    if (!query) {
+    QSqlQuery *query
+        = m_statements->run(QStringLiteral("UPDATE tasks SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
+                            {href, etag, id}, "TaskRepository::markSynced failed:");
+    if (!query)
         return false;
-    }
     return query->numRowsAffected() > 0;
 }
 
