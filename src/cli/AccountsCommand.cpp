@@ -11,19 +11,20 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 QString stateOf(const Account &account)
 {
     QStringList state;
-    state.append(account.enabled ? tr("enabled") : tr("disabled"));
+    state.append(account.enabled ? Text::tr("enabled") : Text::tr("disabled"));
     if (account.last_sync_time)
-        state.append(tr("last sync %1").arg(StorageFormat::dateTimeText(*account.last_sync_time)));
+        state.append(Text::tr("last sync %1").arg(StorageFormat::dateTimeText(*account.last_sync_time)));
     if (!account.last_sync_error.isEmpty())
-        state.append(tr("sync error: %1").arg(account.last_sync_error));
+        state.append(Text::tr("sync error: %1").arg(account.last_sync_error));
     return state.join(QStringLiteral(", "));
 }
 
@@ -34,10 +35,10 @@ CommandSpec accountsCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("accounts")};
     spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = tr("List the accounts.");
-    spec.description = tr("Lists the accounts (calendar sources) in the order the desktop program shows them. "
-                          "Removed accounts whose removal has not been synced yet are not listed. With --json, "
-                          "prints the account records.");
+    spec.summary = Text::tr("List the accounts.");
+    spec.description = Text::tr("Lists the accounts (calendar sources) in the order the desktop program shows them. "
+                                "Removed accounts whose removal has not been synced yet are not listed. With --json, "
+                                "prints the account records.");
     spec.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
@@ -48,10 +49,11 @@ CommandSpec accountsCommand()
             return 0;
         }
         if (accounts.isEmpty()) {
-            context.out() << tr("No accounts.") << Qt::endl;
+            context.out() << Text::tr("No accounts.") << Qt::endl;
             return 0;
         }
-        TextTable table({tr("NAME"), tr("ID"), tr("TYPE"), tr("SERVER"), tr("USER"), tr("STATE")});
+        TextTable table({Text::tr("NAME"), Text::tr("ID"), Text::tr("TYPE"), Text::tr("SERVER"), Text::tr("USER"),
+                         Text::tr("STATE")});
         for (const Account &account : accounts) {
             table.addRow(
                 {account.name, account.id, account.type, account.server_url, account.username, stateOf(account)});

@@ -16,14 +16,15 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 QString yesNo(bool value)
 {
-    return value ? tr("yes") : tr("no");
+    return value ? Text::tr("yes") : Text::tr("no");
 }
 
 void printParse(CommandContext &context, const NLParser::ParseResult &result)
@@ -39,11 +40,11 @@ void printParse(CommandContext &context, const NLParser::ParseResult &result)
         return;
     }
     const QString end = result.end ? StorageFormat::dateTimeText(*result.end) : QString();
-    context.out() << tr("Title:    %1").arg(result.title) << '\n'
-                  << tr("Start:    %1").arg(StorageFormat::dateTimeText(result.start)) << '\n'
-                  << tr("End:      %1").arg(end) << '\n'
-                  << tr("All day:  %1").arg(yesNo(result.allDay)) << '\n'
-                  << tr("Has time: %1").arg(yesNo(result.hasTime)) << Qt::endl;
+    context.out() << Text::tr("Title:    %1").arg(result.title) << '\n'
+                  << Text::tr("Start:    %1").arg(StorageFormat::dateTimeText(result.start)) << '\n'
+                  << Text::tr("End:      %1").arg(end) << '\n'
+                  << Text::tr("All day:  %1").arg(yesNo(result.allDay)) << '\n'
+                  << Text::tr("Has time: %1").arg(yesNo(result.hasTime)) << Qt::endl;
 }
 
 } // namespace
@@ -53,32 +54,32 @@ CommandSpec addCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("add")};
     spec.synopsis = QStringLiteral("TEXT... [--calendar ID] [--now T] [--dry-run] [--json]");
-    spec.summary = tr("Add an event from one line of text (quick-add).");
-    spec.description
-        = tr("Joins the words into one line and reads it as the desktop quick-add box does, for example:\n"
-             "  kbcal add Lunch with Sam tomorrow at 12:30 for 45 min\n"
-             "T is an ISO 8601 date-time (2024-01-05T09:00:00Z, 2024-01-05T10:00:00+01:00, or local time without "
-             "an offset) or a date (2024-01-05, local midnight). With --dry-run nothing is stored and the reading "
-             "is printed. Put -- before the text when one of its words begins with a dash.");
+    spec.summary = Text::tr("Add an event from one line of text (quick-add).");
+    spec.description = Text::tr(
+        "Joins the words into one line and reads it as the desktop quick-add box does, for example:\n"
+        "  kbcal add Lunch with Sam tomorrow at 12:30 for 45 min\n"
+        "T is an ISO 8601 date-time (2024-01-05T09:00:00Z, 2024-01-05T10:00:00+01:00, or local time without "
+        "an offset) or a date (2024-01-05, local midnight). With --dry-run nothing is stored and the reading "
+        "is printed. Put -- before the text when one of its words begins with a dash.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("calendar"), tr("Add the event to the calendar with this id."),
+        QCommandLineOption(QStringLiteral("calendar"), Text::tr("Add the event to the calendar with this id."),
                            QStringLiteral("ID")),
-        QCommandLineOption(QStringLiteral("now"), tr("Read the text as if it were this time (default: now)."),
+        QCommandLineOption(QStringLiteral("now"), Text::tr("Read the text as if it were this time (default: now)."),
                            QStringLiteral("T")),
-        QCommandLineOption(QStringLiteral("dry-run"), tr("Print how the text is read; store nothing.")),
+        QCommandLineOption(QStringLiteral("dry-run"), Text::tr("Print how the text is read; store nothing.")),
     };
     spec.minArguments = 1;
     spec.maxArguments = -1;
     spec.run = [](CommandContext &context) {
         const QString line = context.arguments().join(QLatin1Char(' '));
         if (line.trimmed().isEmpty())
-            return context.usageError(tr("the text of the event is empty"));
+            return context.usageError(Text::tr("the text of the event is empty"));
         QDateTime now = Clock::nowLocal();
         if (context.parser().isSet(QStringLiteral("now"))) {
             const QString text = context.parser().value(QStringLiteral("now"));
             now = parseTimeArgument(text);
             if (!now.isValid())
-                return context.usageError(tr("'%1' is not a date or date-time for --now").arg(text));
+                return context.usageError(Text::tr("'%1' is not a date or date-time for --now").arg(text));
         }
 
         // A line naming a date or time that does not exist is refused, not turned into an event
@@ -100,17 +101,17 @@ CommandSpec addCommand()
             return context.fail(choice.error);
         const std::optional<Event> event = NLParser::eventFromLine(line, choice.calendar->id, now);
         if (!event || !state->events()->insert(*event))
-            return context.fail(tr("the event could not be stored in %1").arg(choice.calendar->name));
+            return context.fail(Text::tr("the event could not be stored in %1").arg(choice.calendar->name));
         const Event stored = state->events()->getById(event->id).value_or(*event);
         if (context.json()) {
             context.printJson(JsonRecords::toJson(stored));
         } else {
             const QLocale locale;
             const QDateTime start = stored.start_time.toLocalTime();
-            const QString when = stored.is_all_day
-                ? locale.toString(start.date(), QStringLiteral("ddd yyyy-MM-dd"))
-                : locale.toString(start, QStringLiteral("ddd yyyy-MM-dd HH:mm"));
-            context.out() << tr("Added \"%1\" on %2 to %3").arg(stored.title, when, choice.calendar->name) << Qt::endl;
+            const QString when = stored.is_all_day ? locale.toString(start.date(), QStringLiteral("ddd yyyy-MM-dd"))
+                                                   : locale.toString(start, QStringLiteral("ddd yyyy-MM-dd HH:mm"));
+            context.out() << Text::tr("Added \"%1\" on %2 to %3").arg(stored.title, when, choice.calendar->name)
+                          << Qt::endl;
         }
         return 0;
     };

@@ -21,10 +21,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 // The local dates an occurrence is listed under, clipped to the span. All-day events cover
 // their own dates (end exclusive), whatever zone they are stored in; timed events the local
@@ -53,7 +54,7 @@ QList<QDate> daysOf(const Event &event, const QDate &firstDay, const QDate &last
 QString timeText(const Event &event, const QDate &day)
 {
     if (event.is_all_day)
-        return tr("all day");
+        return Text::tr("all day");
     const auto instant = [&day](const QDateTime &value) -> QString {
         const QDateTime local = value.toLocalTime();
         QString text;
@@ -80,7 +81,7 @@ void printText(CommandContext &context, const SpanContents &span, const QHash<QS
 
     const QLocale locale;
     if (byDay.isEmpty()) {
-        out << tr("No events from %1 to %2.")
+        out << Text::tr("No events from %1 to %2.")
                    .arg(locale.toString(firstDay, QLocale::ShortFormat), locale.toString(lastDay, QLocale::ShortFormat))
             << '\n';
     }
@@ -96,22 +97,22 @@ void printText(CommandContext &context, const SpanContents &span, const QHash<QS
                          [](const Event *a, const Event *b) { return a->is_all_day && !b->is_all_day; });
         for (const Event *event : std::as_const(listed)) {
             QString line = QStringLiteral("  ") + timeText(*event, it.key()).leftJustified(11) + QStringLiteral("  ")
-                + (event->title.isEmpty() ? tr("(no title)") : event->title);
+                + (event->title.isEmpty() ? Text::tr("(no title)") : event->title);
             if (!event->location.isEmpty())
                 line += QStringLiteral(", ") + event->location;
             line += QStringLiteral("  [") + calendarNames.value(event->calendar_id, event->calendar_id)
                 + QLatin1Char(']');
             if (span.dimmedIds.contains(event->id))
-                line += QLatin1Char(' ') + tr("(dimmed)");
+                line += QLatin1Char(' ') + Text::tr("(dimmed)");
             if (span.suppressedReminderIds.contains(event->id))
-                line += QLatin1Char(' ') + tr("(reminders off)");
+                line += QLatin1Char(' ') + Text::tr("(reminders off)");
             out << line.replace(QLatin1Char('\n'), QLatin1Char(' ')) << '\n';
         }
     }
     if (span.hiddenCount > 0) {
         out << '\n'
-            << (span.hiddenCount == 1 ? tr("1 event hidden by filter rules.")
-                                      : tr("%1 events hidden by filter rules.").arg(span.hiddenCount))
+            << (span.hiddenCount == 1 ? Text::tr("1 event hidden by filter rules.")
+                                      : Text::tr("%1 events hidden by filter rules.").arg(span.hiddenCount))
             << '\n';
     }
     out.flush();
@@ -137,18 +138,21 @@ CommandSpec agendaCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("agenda")};
     spec.synopsis = QStringLiteral("[--from D] [--to D | --days N] [--calendar ID]... [--json]");
-    spec.summary = tr("Show the events of a span of days.");
-    spec.description
-        = tr("Shows the occurrences of the stored events from --from (default: today at 00:00 local time) up to, not "
-             "including, --to, or for --days days (default: 7), exactly as the calendar views show them: recurring "
-             "events expanded, and the enabled filter rules applied (hidden events are counted, dimmed ones marked). "
-             "A date without a time is local midnight. Without --calendar, the visible calendars are shown.");
+    spec.summary = Text::tr("Show the events of a span of days.");
+    spec.description = Text::tr(
+        "Shows the occurrences of the stored events from --from (default: today at 00:00 local time) up to, not "
+        "including, --to, or for --days days (default: 7), exactly as the calendar views show them: recurring "
+        "events expanded, and the enabled filter rules applied (hidden events are counted, dimmed ones marked). "
+        "A date without a time is local midnight. Without --calendar, the visible calendars are shown.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("from"), tr("Start of the span (date or date-time)."), QStringLiteral("D")),
-        QCommandLineOption(QStringLiteral("to"), tr("End of the span, not included (date or date-time)."),
+        QCommandLineOption(QStringLiteral("from"), Text::tr("Start of the span (date or date-time)."),
                            QStringLiteral("D")),
-        QCommandLineOption(QStringLiteral("days"), tr("Length of the span in days (1 to 36600)."), QStringLiteral("N")),
-        QCommandLineOption(QStringLiteral("calendar"), tr("Show this calendar (repeatable)."), QStringLiteral("ID")),
+        QCommandLineOption(QStringLiteral("to"), Text::tr("End of the span, not included (date or date-time)."),
+                           QStringLiteral("D")),
+        QCommandLineOption(QStringLiteral("days"), Text::tr("Length of the span in days (1 to 36600)."),
+                           QStringLiteral("N")),
+        QCommandLineOption(QStringLiteral("calendar"), Text::tr("Show this calendar (repeatable)."),
+                           QStringLiteral("ID")),
     };
     spec.run = [](CommandContext &context) {
         QCommandLineParser &parser = context.parser();
@@ -157,22 +161,24 @@ CommandSpec agendaCommand()
             from = parseTimeArgument(parser.value(QStringLiteral("from")));
             if (!from.isValid())
                 return context.usageError(
-                    tr("invalid date for --from: '%1'").arg(parser.value(QStringLiteral("from"))));
+                    Text::tr("invalid date for --from: '%1'").arg(parser.value(QStringLiteral("from"))));
         }
         if (parser.isSet(QStringLiteral("to")) && parser.isSet(QStringLiteral("days")))
-            return context.usageError(tr("--to and --days cannot be used together"));
+            return context.usageError(Text::tr("--to and --days cannot be used together"));
         QDateTime to = from.addDays(7);
         if (parser.isSet(QStringLiteral("to"))) {
             to = parseTimeArgument(parser.value(QStringLiteral("to")));
             if (!to.isValid())
-                return context.usageError(tr("invalid date for --to: '%1'").arg(parser.value(QStringLiteral("to"))));
+                return context.usageError(
+                    Text::tr("invalid date for --to: '%1'").arg(parser.value(QStringLiteral("to"))));
             if (!(from < to))
-                return context.usageError(tr("--to must be later than the start of the span"));
+                return context.usageError(Text::tr("--to must be later than the start of the span"));
         } else if (parser.isSet(QStringLiteral("days"))) {
             bool ok = false;
             const int days = parser.value(QStringLiteral("days")).toInt(&ok);
             if (!ok || days < 1 || days > 36600)
-                return context.usageError(tr("invalid number of days: '%1'").arg(parser.value(QStringLiteral("days"))));
+                return context.usageError(
+                    Text::tr("invalid number of days: '%1'").arg(parser.value(QStringLiteral("days"))));
             to = from.addDays(days);
         }
 
@@ -191,7 +197,7 @@ CommandSpec agendaCommand()
         calendarIds.removeDuplicates();
         for (const QString &id : std::as_const(calendarIds)) {
             if (!calendarNames.contains(id))
-                return context.fail(tr("no calendar with the id %1").arg(id));
+                return context.fail(Text::tr("no calendar with the id %1").arg(id));
         }
         // Without a choice, the visible calendars; when that is all of them, no calendar filter.
         bool nothingToShow = false;

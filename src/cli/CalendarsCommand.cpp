@@ -12,26 +12,27 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 QString flagsOf(const Calendar &calendar)
 {
     QStringList flags;
     if (calendar.is_default)
-        flags.append(tr("default"));
+        flags.append(Text::tr("default"));
     if (!calendar.is_visible)
-        flags.append(tr("hidden"));
+        flags.append(Text::tr("hidden"));
     if (calendar.is_read_only)
-        flags.append(tr("read-only"));
+        flags.append(Text::tr("read-only"));
     if (calendar.is_shared)
-        flags.append(tr("shared"));
+        flags.append(Text::tr("shared"));
     if (calendar.shared_with_me)
-        flags.append(tr("shared with me"));
+        flags.append(Text::tr("shared with me"));
     if (!calendar.last_sync_error.isEmpty())
-        flags.append(tr("sync error: %1").arg(calendar.last_sync_error));
+        flags.append(Text::tr("sync error: %1").arg(calendar.last_sync_error));
     return flags.join(QStringLiteral(", "));
 }
 
@@ -42,9 +43,9 @@ CommandSpec calendarsCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("calendars")};
     spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = tr("List the calendars.");
-    spec.description = tr("Lists every calendar in the order the desktop program shows them, with its account, "
-                          "colour and state. With --json, prints the calendar records.");
+    spec.summary = Text::tr("List the calendars.");
+    spec.description = Text::tr("Lists every calendar in the order the desktop program shows them, with its account, "
+                                "colour and state. With --json, prints the calendar records.");
     spec.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
@@ -55,14 +56,14 @@ CommandSpec calendarsCommand()
             return 0;
         }
         if (calendars.isEmpty()) {
-            context.out() << tr("No calendars.") << Qt::endl;
+            context.out() << Text::tr("No calendars.") << Qt::endl;
             return 0;
         }
         // Tombstoned accounts too: their calendars are still there until sync removes them.
         QHash<QString, QString> accountNames;
         for (const Account &account : AccountRepository(database).getAllIncludingDeleted())
             accountNames.insert(account.id, account.name);
-        TextTable table({tr("NAME"), tr("ID"), tr("ACCOUNT"), tr("COLOUR"), tr("STATE")});
+        TextTable table({Text::tr("NAME"), Text::tr("ID"), Text::tr("ACCOUNT"), Text::tr("COLOUR"), Text::tr("STATE")});
         for (const Calendar &calendar : calendars) {
             table.addRow({calendar.name, calendar.id, accountNames.value(calendar.account_id, calendar.account_id),
                           calendar.color, flagsOf(calendar)});

@@ -11,31 +11,33 @@ namespace {
 
 bool s_verbose = false;
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 const QString kGeneralUsage = QStringLiteral("Usage: kbcal [--data-dir DIR] [--verbose] COMMAND [OPTIONS] [ARGS]");
 
 QCommandLineOption jsonOption()
 {
-    return QCommandLineOption(QStringLiteral("json"), tr("Print exactly one JSON document on standard output."));
+    return QCommandLineOption(QStringLiteral("json"), Text::tr("Print exactly one JSON document on standard output."));
 }
 
 QCommandLineOption progressOption()
 {
-    return QCommandLineOption(QStringLiteral("progress"), tr("Report progress of long work on standard error."));
+    return QCommandLineOption(QStringLiteral("progress"), Text::tr("Report progress of long work on standard error."));
 }
 
 QCommandLineOption dataDirOption()
 {
-    return QCommandLineOption(QStringLiteral("data-dir"), tr("Use the calendar data in DIR."), QStringLiteral("DIR"));
+    return QCommandLineOption(QStringLiteral("data-dir"), Text::tr("Use the calendar data in DIR."),
+                              QStringLiteral("DIR"));
 }
 
 QCommandLineOption helpOption()
 {
-    return QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+    return QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Show this help."));
 }
 
 QString optionLabel(const QCommandLineOption &option)
@@ -87,16 +89,16 @@ int Cli::run(const QStringList &arguments)
             s_verbose = true;
         } else if (option == QLatin1String("--data-dir")) {
             if (rest.isEmpty())
-                return generalUsageError(tr("missing value for --data-dir"));
+                return generalUsageError(Text::tr("missing value for --data-dir"));
             dataDir = rest.takeFirst();
         } else if (option.startsWith(QLatin1String("--data-dir="))) {
             dataDir = option.mid(11);
         } else {
-            return generalUsageError(tr("unknown option '%1'").arg(option));
+            return generalUsageError(Text::tr("unknown option '%1'").arg(option));
         }
     }
     if (rest.isEmpty())
-        return generalUsageError(tr("missing command"));
+        return generalUsageError(Text::tr("missing command"));
 
     // The longest list of command words that matches the start of the line.
     const CommandSpec *found = nullptr;
@@ -110,7 +112,7 @@ int Cli::run(const QStringList &arguments)
         QString attempted = rest.constFirst();
         if (rest.size() > 1 && !rest.at(1).startsWith(QLatin1Char('-')))
             attempted += QLatin1Char(' ') + rest.at(1);
-        return generalUsageError(tr("unknown command '%1'").arg(attempted));
+        return generalUsageError(Text::tr("unknown command '%1'").arg(attempted));
     }
 
     QStringList commandArguments = rest.mid(found->words.size());
@@ -135,7 +137,7 @@ int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments
         return 2;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        m_out << usageLine(spec) << "\n\n" << spec.description << "\n\nOptions:\n";
+        m_out << usageLine(spec) << "\n\n" << spec.description << "\n\n" << Text::tr("Options:") << '\n';
         QList<QCommandLineOption> options = spec.options;
         if (spec.acceptsJson)
             options.append(jsonOption());
@@ -150,10 +152,10 @@ int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments
     CommandContext context(spec, parser, m_out, m_err, m_in, progress);
     const int count = parser.positionalArguments().size();
     if (count < spec.minArguments)
-        return context.usageError(tr("missing argument"));
+        return context.usageError(Text::tr("missing argument"));
     if (spec.maxArguments >= 0 && count > spec.maxArguments)
         return context.usageError(
-            tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
+            Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
     const int status = spec.run(context);
     m_out.flush();
     m_err.flush();
@@ -163,21 +165,21 @@ int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments
 int Cli::printGeneralHelp()
 {
     m_out << kGeneralUsage << "\n\n"
-          << tr("The command-line companion of Kettlebrook Calendar: the same calendar store, from a terminal.")
+          << Text::tr("The command-line companion of Kettlebrook Calendar: the same calendar store, from a terminal.")
           << "\n\n"
-          << tr("Commands:") << '\n';
+          << Text::tr("Commands:") << '\n';
     for (const CommandSpec &spec : allCommands())
         m_out << "  " << spec.name().leftJustified(20) << ' ' << spec.summary << '\n';
     m_out << '\n'
-          << tr("Global options:") << '\n'
+          << Text::tr("Global options:") << '\n'
           << "  --data-dir DIR        "
-          << tr("Use the calendar data in DIR (default: CALENDAR_DATA_DIR, else the "
-                "desktop program's data folder).")
+          << Text::tr("Use the calendar data in DIR (default: CALENDAR_DATA_DIR, else the "
+                      "desktop program's data folder).")
           << '\n'
-          << "  --verbose             " << tr("Show the program's log output on standard error.") << '\n'
-          << "  --version             " << tr("Show the version.") << '\n'
+          << "  --verbose             " << Text::tr("Show the program's log output on standard error.") << '\n'
+          << "  --version             " << Text::tr("Show the version.") << '\n'
           << '\n'
-          << tr("Run 'kbcal COMMAND --help' for the options of a command.") << '\n';
+          << Text::tr("Run 'kbcal COMMAND --help' for the options of a command.") << '\n';
     m_out.flush();
     return 0;
 }
@@ -186,6 +188,6 @@ int Cli::generalUsageError(const QString &message)
 {
     m_err << "kbcal: " << message << '\n'
           << kGeneralUsage << '\n'
-          << tr("Run 'kbcal --help' for the list of commands.") << Qt::endl;
+          << Text::tr("Run 'kbcal --help' for the list of commands.") << Qt::endl;
     return 2;
 }

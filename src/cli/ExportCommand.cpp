@@ -11,10 +11,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 // A content line folded at 75 octets, as the text is written to files; a continuation begins with
 // a space, and a UTF-8 sequence is never split.
@@ -77,11 +78,11 @@ CommandSpec exportCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("export")};
     spec.synopsis = QStringLiteral("[--calendar ID]...");
-    spec.summary = tr("Write the stored events as one iCalendar object.");
-    spec.description = tr("Writes the events of the named calendars (every calendar when none is named) to "
-                          "standard output as one iCalendar object, each event in the text it was stored with.");
+    spec.summary = Text::tr("Write the stored events as one iCalendar object.");
+    spec.description = Text::tr("Writes the events of the named calendars (every calendar when none is named) to "
+                                "standard output as one iCalendar object, each event in the text it was stored with.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("calendar"), tr("Export the calendar ID (may be repeated)."),
+        QCommandLineOption(QStringLiteral("calendar"), Text::tr("Export the calendar ID (may be repeated)."),
                            QStringLiteral("ID")),
     };
     spec.acceptsJson = false;
@@ -97,7 +98,7 @@ CommandSpec exportCommand()
         } else {
             for (const QString &id : std::as_const(ids)) {
                 if (!calendars.getById(id))
-                    return context.fail(tr("there is no calendar %1").arg(id));
+                    return context.fail(Text::tr("there is no calendar %1").arg(id));
             }
         }
 

@@ -12,17 +12,18 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 // One line per occurrence, in local time: "2024-01-05 09:00 - 10:00  Title".
 QString occurrenceLine(const Event &event)
 {
     const QDateTime start = event.start_time.toLocalTime();
     if (event.is_all_day)
-        return start.date().toString(Qt::ISODate) + QLatin1String("  ") + tr("all day") + QLatin1String("  ")
+        return start.date().toString(Qt::ISODate) + QLatin1String("  ") + Text::tr("all day") + QLatin1String("  ")
             + event.title;
     QString when = start.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
     if (event.end_time) {
@@ -53,29 +54,30 @@ CommandSpec icsExpandCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("ics"), QStringLiteral("expand")};
     spec.synopsis = QStringLiteral("[FILE|-] --from T --to T [--json]");
-    spec.summary = tr("Expand the events of iCalendar text over a span.");
-    spec.description = tr("Reads iCalendar text from FILE, or from standard input when FILE is '-' or absent, and "
-                          "lists the occurrences of its events in the span [--from, --to) exactly as the calendar "
-                          "views show them: single events first, then each series' occurrences with changed "
-                          "occurrences in place. T is an ISO 8601 date-time or a date (local midnight). No "
-                          "database is used.");
+    spec.summary = Text::tr("Expand the events of iCalendar text over a span.");
+    spec.description
+        = Text::tr("Reads iCalendar text from FILE, or from standard input when FILE is '-' or absent, and "
+                   "lists the occurrences of its events in the span [--from, --to) exactly as the calendar "
+                   "views show them: single events first, then each series' occurrences with changed "
+                   "occurrences in place. T is an ISO 8601 date-time or a date (local midnight). No "
+                   "database is used.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("from"), tr("Start of the span (included)."), QStringLiteral("T")),
-        QCommandLineOption(QStringLiteral("to"), tr("End of the span (excluded)."), QStringLiteral("T")),
+        QCommandLineOption(QStringLiteral("from"), Text::tr("Start of the span (included)."), QStringLiteral("T")),
+        QCommandLineOption(QStringLiteral("to"), Text::tr("End of the span (excluded)."), QStringLiteral("T")),
     };
     spec.maxArguments = 1;
     spec.run = [](CommandContext &context) {
         const QCommandLineParser &parser = context.parser();
         if (!parser.isSet(QStringLiteral("from")) || !parser.isSet(QStringLiteral("to")))
-            return context.usageError(tr("both --from and --to are required"));
+            return context.usageError(Text::tr("both --from and --to are required"));
         const QDateTime from = parseTimeArgument(parser.value(QStringLiteral("from")));
         if (!from.isValid())
-            return context.usageError(tr("invalid time '%1'").arg(parser.value(QStringLiteral("from"))));
+            return context.usageError(Text::tr("invalid time '%1'").arg(parser.value(QStringLiteral("from"))));
         const QDateTime to = parseTimeArgument(parser.value(QStringLiteral("to")));
         if (!to.isValid())
-            return context.usageError(tr("invalid time '%1'").arg(parser.value(QStringLiteral("to"))));
+            return context.usageError(Text::tr("invalid time '%1'").arg(parser.value(QStringLiteral("to"))));
         if (to <= from)
-            return context.fail(tr("the span is empty: --to must be after --from"));
+            return context.fail(Text::tr("the span is empty: --to must be after --from"));
 
         const QString path = context.arguments().value(0, QStringLiteral("-"));
         QByteArray text;
@@ -84,7 +86,7 @@ CommandSpec icsExpandCommand()
         } else {
             QFile file(path);
             if (!file.open(QIODevice::ReadOnly))
-                return context.fail(tr("cannot read %1: %2").arg(path, file.errorString()));
+                return context.fail(Text::tr("cannot read %1: %2").arg(path, file.errorString()));
             text = file.readAll();
         }
 

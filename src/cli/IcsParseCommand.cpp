@@ -10,10 +10,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 // Writes UTF-8 to standard output in large pieces. A feed of 100,000 events gives a few hundred
 // megabytes of JSON, so the records are written one at a time instead of as one document.
@@ -90,7 +91,7 @@ QString timeText(const std::optional<QDateTime> &value)
 
 QString titleText(const QString &title)
 {
-    return title.isEmpty() ? tr("(no title)") : oneLine(title);
+    return title.isEmpty() ? Text::tr("(no title)") : oneLine(title);
 }
 
 QString eventLine(const Event &event)
@@ -99,12 +100,12 @@ QString eventLine(const Event &event)
                        .arg(timeText(event.start_time), timeText(event.end_time), titleText(event.title));
     QStringList notes;
     if (event.is_all_day)
-        notes.append(tr("all day"));
+        notes.append(Text::tr("all day"));
     if (!event.recurrence_rule.isEmpty())
-        notes.append(tr("repeats %1").arg(oneLine(event.recurrence_rule)));
+        notes.append(Text::tr("repeats %1").arg(oneLine(event.recurrence_rule)));
     if (!event.recurrence_id.isEmpty())
-        notes.append(tr("changed occurrence %1").arg(oneLine(event.recurrence_id)));
-    notes.append(tr("uid %1").arg(oneLine(event.uid)));
+        notes.append(Text::tr("changed occurrence %1").arg(oneLine(event.recurrence_id)));
+    notes.append(Text::tr("uid %1").arg(oneLine(event.uid)));
     return line + QStringLiteral("  [") + notes.join(QStringLiteral("; ")) + QLatin1Char(']');
 }
 
@@ -112,10 +113,10 @@ QString taskLine(const Task &task)
 {
     QStringList notes;
     if (task.due_date)
-        notes.append(tr("due %1").arg(timeText(task.due_date)));
+        notes.append(Text::tr("due %1").arg(timeText(task.due_date)));
     if (!task.categories.isEmpty())
-        notes.append(tr("categories %1").arg(oneLine(task.categories.join(QStringLiteral(", ")))));
-    notes.append(tr("uid %1").arg(oneLine(task.uid)));
+        notes.append(Text::tr("categories %1").arg(oneLine(task.categories.join(QStringLiteral(", ")))));
+    notes.append(Text::tr("uid %1").arg(oneLine(task.uid)));
     return QStringLiteral("task   %1  %2  [%3]")
         .arg(oneLine(task.status), titleText(task.title), notes.join(QStringLiteral("; ")));
 }
@@ -130,10 +131,10 @@ int run(CommandContext &context)
     } else {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
-            return context.fail(tr("cannot read %1: %2").arg(path, file.errorString()));
+            return context.fail(Text::tr("cannot read %1: %2").arg(path, file.errorString()));
         text = file.readAll();
         if (file.error() != QFileDevice::NoError)
-            return context.fail(tr("cannot read %1: %2").arg(path, file.errorString()));
+            return context.fail(Text::tr("cannot read %1: %2").arg(path, file.errorString()));
     }
 
     const QList<Event> events = ICal::parseEvents(text);
@@ -155,7 +156,7 @@ int run(CommandContext &context)
     for (const Task &task : tasks)
         out << taskLine(task) << '\n';
     if (events.isEmpty() && tasks.isEmpty())
-        out << tr("No events or tasks found.") << '\n';
+        out << Text::tr("No events or tasks found.") << '\n';
     out.flush();
     return 0;
 }
@@ -167,10 +168,11 @@ CommandSpec icsParseCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("ics"), QStringLiteral("parse")};
     spec.synopsis = QStringLiteral("[FILE|-] [--json]");
-    spec.summary = tr("Read iCalendar text and print its events and tasks.");
-    spec.description = tr("Reads iCalendar text from FILE, or from standard input when FILE is - or absent, with the "
-                          "calendar's own reader, and prints the events and the tasks it finds, each in the order of "
-                          "the text. The calendar database is not touched.");
+    spec.summary = Text::tr("Read iCalendar text and print its events and tasks.");
+    spec.description
+        = Text::tr("Reads iCalendar text from FILE, or from standard input when FILE is - or absent, with the "
+                   "calendar's own reader, and prints the events and the tasks it finds, each in the order of "
+                   "the text. The calendar database is not touched.");
     spec.maxArguments = 1;
     spec.run = run;
     return spec;

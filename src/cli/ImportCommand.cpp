@@ -11,10 +11,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 } // namespace
 
@@ -23,13 +24,14 @@ CommandSpec importCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("import")};
     spec.synopsis = QStringLiteral("FILE [--calendar ID] [--json]");
-    spec.summary = tr("Import the events of an iCalendar file.");
-    spec.description = tr("Imports the events of FILE into a calendar: --calendar, else the calendar chosen for new "
-                          "events (the preference ui/defaultCalendarId, else the default calendar, else the first "
-                          "one). An event already in the calendar (same UID and recurrence id) is updated, any "
-                          "other is added. Either the whole file is imported or, on an error, nothing.");
+    spec.summary = Text::tr("Import the events of an iCalendar file.");
+    spec.description
+        = Text::tr("Imports the events of FILE into a calendar: --calendar, else the calendar chosen for new "
+                   "events (the preference ui/defaultCalendarId, else the default calendar, else the first "
+                   "one). An event already in the calendar (same UID and recurrence id) is updated, any "
+                   "other is added. Either the whole file is imported or, on an error, nothing.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("calendar"), tr("Import into the calendar ID."), QStringLiteral("ID")),
+        QCommandLineOption(QStringLiteral("calendar"), Text::tr("Import into the calendar ID."), QStringLiteral("ID")),
     };
     spec.minArguments = 1;
     spec.maxArguments = 1;
@@ -46,7 +48,7 @@ CommandSpec importCommand()
         EventImport::Progress progress;
         if (context.progress()) {
             progress = [&context](int done, int total) {
-                context.err() << tr("Importing: %1 of %2 events").arg(done).arg(total) << '\r';
+                context.err() << Text::tr("Importing: %1 of %2 events").arg(done).arg(total) << '\r';
                 if (done == total)
                     context.err() << '\n';
                 context.err().flush();

@@ -14,10 +14,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 int countRows(Database *database, const QString &sql)
 {
@@ -32,10 +33,11 @@ CommandSpec sampleDataAddCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("sample-data"), QStringLiteral("add")};
     spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = tr("Add a sample week of events and tasks.");
-    spec.description = tr("Adds the account \"Sample Data\" with four calendars, a week of events around today and a "
-                          "few tasks, to show what the calendar looks like. Whatever of it is already there is left "
-                          "as it is. 'kbcal sample-data remove' takes it away again.");
+    spec.summary = Text::tr("Add a sample week of events and tasks.");
+    spec.description
+        = Text::tr("Adds the account \"Sample Data\" with four calendars, a week of events around today and a "
+                   "few tasks, to show what the calendar looks like. Whatever of it is already there is left "
+                   "as it is. 'kbcal sample-data remove' takes it away again.");
     spec.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
@@ -59,9 +61,11 @@ CommandSpec sampleDataAddCommand()
                                           {QStringLiteral("events"), eventCount},
                                           {QStringLiteral("tasks"), taskCount}});
         } else {
-            context.out()
-                << tr("Sample data: %1 calendars, %2 events, %3 tasks.").arg(calendars).arg(eventCount).arg(taskCount)
-                << Qt::endl;
+            context.out() << Text::tr("Sample data: %1 calendars, %2 events, %3 tasks.")
+                                 .arg(calendars)
+                                 .arg(eventCount)
+                                 .arg(taskCount)
+                          << Qt::endl;
         }
         return 0;
     };
@@ -73,8 +77,8 @@ CommandSpec sampleDataRemoveCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("sample-data"), QStringLiteral("remove")};
     spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = tr("Remove the sample events, tasks, calendars and account.");
-    spec.description = tr("Deletes everything 'kbcal sample-data add' created and prints how many rows went.");
+    spec.summary = Text::tr("Remove the sample events, tasks, calendars and account.");
+    spec.description = Text::tr("Deletes everything 'kbcal sample-data add' created and prints how many rows went.");
     spec.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
@@ -83,7 +87,7 @@ CommandSpec sampleDataRemoveCommand()
         if (context.json())
             context.printJson(QJsonObject{{QStringLiteral("removed"), removed}});
         else
-            context.out() << tr("Removed %1 sample rows.").arg(removed) << Qt::endl;
+            context.out() << Text::tr("Removed %1 sample rows.").arg(removed) << Qt::endl;
         return 0;
     };
     return spec;

@@ -8,10 +8,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 QString dueText(const Task &task)
 {
@@ -30,9 +31,9 @@ int changeTask(CommandContext &context, bool complete)
     TaskRepository tasks(database);
     const std::optional<Task> before = tasks.getById(id);
     if (!before || before->deleted_at)
-        return context.fail(tr("there is no task %1").arg(id));
+        return context.fail(Text::tr("there is no task %1").arg(id));
     if (!tasks.setCompleted(id, complete))
-        return context.fail(tr("could not change the task %1").arg(id));
+        return context.fail(Text::tr("could not change the task %1").arg(id));
     const Task after = *tasks.getById(id);
 
     if (context.json()) {
@@ -40,13 +41,13 @@ int changeTask(CommandContext &context, bool complete)
         return 0;
     }
     if (!complete)
-        context.out() << tr("Reopened: %1").arg(after.title) << '\n';
+        context.out() << Text::tr("Reopened: %1").arg(after.title) << '\n';
     else if (after.status == QLatin1String("completed"))
-        context.out() << tr("Completed: %1").arg(after.title) << '\n';
+        context.out() << Text::tr("Completed: %1").arg(after.title) << '\n';
     else if (after.due_date)
-        context.out() << tr("Done; next due %1: %2").arg(dueText(after), after.title) << '\n';
+        context.out() << Text::tr("Done; next due %1: %2").arg(dueText(after), after.title) << '\n';
     else
-        context.out() << tr("Done; next start %1: %2")
+        context.out() << Text::tr("Done; next start %1: %2")
                              .arg(after.start_date ? after.start_date->date().toString(Qt::ISODate) : QString(),
                                   after.title)
                       << '\n';
@@ -73,14 +74,15 @@ CommandSpec taskChangeCommand(const QString &word, const QString &summary, const
 
 CommandSpec taskCompleteCommand()
 {
-    return taskChangeCommand(QStringLiteral("complete"), tr("Complete a task."),
-                             tr("Marks the task ID as completed. A repeating task is not closed: it moves on to its "
-                                "next date and stays open. Prints the task after the change."),
-                             true);
+    return taskChangeCommand(
+        QStringLiteral("complete"), Text::tr("Complete a task."),
+        Text::tr("Marks the task ID as completed. A repeating task is not closed: it moves on to its "
+                 "next date and stays open. Prints the task after the change."),
+        true);
 }
 
 CommandSpec taskReopenCommand()
 {
-    return taskChangeCommand(QStringLiteral("reopen"), tr("Reopen a completed task."),
-                             tr("Marks the task ID as not completed. Prints the task after the change."), false);
+    return taskChangeCommand(QStringLiteral("reopen"), Text::tr("Reopen a completed task."),
+                             Text::tr("Marks the task ID as not completed. Prints the task after the change."), false);
 }

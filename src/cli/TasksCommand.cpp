@@ -10,10 +10,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("kbcal", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(kbcal)
+};
 
 // "[x] 2025-03-14  Title  (id)": done mark, due date, title, id.
 QString taskLine(const Task &task)
@@ -36,11 +37,13 @@ CommandSpec tasksCommand()
     CommandSpec spec;
     spec.words = {QStringLiteral("tasks")};
     spec.synopsis = QStringLiteral("[--calendar ID] [--json]");
-    spec.summary = tr("List tasks.");
-    spec.description = tr("Lists the tasks of the calendar ID, or of every calendar, by due date; tasks without a "
-                          "due date come last in each calendar. Deleted tasks are not listed.");
+    spec.summary = Text::tr("List tasks.");
+    spec.description
+        = Text::tr("Lists the tasks of the calendar ID, or of every calendar, by due date; tasks without a "
+                   "due date come last in each calendar. Deleted tasks are not listed.");
     spec.options = {
-        QCommandLineOption(QStringLiteral("calendar"), tr("List the tasks of the calendar ID."), QStringLiteral("ID")),
+        QCommandLineOption(QStringLiteral("calendar"), Text::tr("List the tasks of the calendar ID."),
+                           QStringLiteral("ID")),
     };
     spec.run = [](CommandContext &context) {
         Database *database = context.database();
@@ -51,7 +54,7 @@ CommandSpec tasksCommand()
         const QString requested = context.parser().value(QStringLiteral("calendar"));
         if (!requested.isEmpty()) {
             if (!calendars.getById(requested))
-                return context.fail(tr("there is no calendar %1").arg(requested));
+                return context.fail(Text::tr("there is no calendar %1").arg(requested));
             ids.append(requested);
         } else {
             for (const Calendar &calendar : calendars.getAll())

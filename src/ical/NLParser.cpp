@@ -16,10 +16,11 @@
 namespace NLParser {
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("NLParser", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(NLParser)
+};
 
 QRegularExpression compile(const char *pattern)
 {
@@ -387,17 +388,17 @@ Parse parseWithMatches(const QString &text, const QDateTime &now)
 QString problemOf(const QString &text, const QDateTime &now, const Parse &parse)
 {
     if (!now.isValid())
-        return tr("the reference time is not valid");
+        return Text::tr("the reference time is not valid");
     if (parse.date && !parse.date->date.isValid())
-        return tr("\"%1\" is not a valid date").arg(spannedText(text, parse.date->spans));
+        return Text::tr("\"%1\" is not a valid date").arg(spannedText(text, parse.date->spans));
     if (parse.time && (!parse.time->start.isValid() || (parse.time->isRange && !parse.time->end.isValid())))
-        return tr("\"%1\" is not a valid time").arg(spannedText(text, parse.time->spans));
+        return Text::tr("\"%1\" is not a valid time").arg(spannedText(text, parse.time->spans));
     if (parse.durationUsed && parse.duration->minutes < 0)
-        return tr("\"%1\" is too long").arg(spannedText(text, parse.duration->spans));
+        return Text::tr("\"%1\" is too long").arg(spannedText(text, parse.duration->spans));
     if (!storable(parse.result.start) || !parse.result.end || !storable(*parse.result.end)) {
         if (parse.date)
-            return tr("\"%1\" falls outside the years 1 to 9999").arg(spannedText(text, parse.date->spans));
-        return tr("the event would fall outside the years 1 to 9999");
+            return Text::tr("\"%1\" falls outside the years 1 to 9999").arg(spannedText(text, parse.date->spans));
+        return Text::tr("the event would fall outside the years 1 to 9999");
     }
     return QString();
 }

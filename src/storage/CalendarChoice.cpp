@@ -8,10 +8,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("CalendarChoice", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CalendarChoice)
+};
 
 } // namespace
 
@@ -23,9 +24,9 @@ Choice forNewEvents(Database &database, const QString &requestedId)
     if (!requestedId.isEmpty()) {
         const std::optional<Calendar> requested = calendars.getById(requestedId);
         if (!requested)
-            return {std::nullopt, tr("There is no calendar %1.").arg(requestedId)};
+            return {std::nullopt, Text::tr("There is no calendar %1.").arg(requestedId)};
         if (requested->is_read_only)
-            return {std::nullopt, tr("The calendar %1 is read-only.").arg(requested->name)};
+            return {std::nullopt, Text::tr("The calendar %1 is read-only.").arg(requested->name)};
         return {requested, QString()};
     }
 
@@ -44,7 +45,7 @@ Choice forNewEvents(Database &database, const QString &requestedId)
         if (!calendar.is_read_only)
             return {calendar, QString()};
     }
-    return {std::nullopt, tr("There is no calendar to add events to.")};
+    return {std::nullopt, Text::tr("There is no calendar to add events to.")};
 }
 
 } // namespace CalendarChoice

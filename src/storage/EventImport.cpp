@@ -16,10 +16,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("EventImport", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(EventImport)
+};
 
 constexpr int kProgressEvery = 1000;
 
@@ -48,11 +49,11 @@ QString checkCalendar(Database &database, const QString &calendarId)
     query.prepare(QStringLiteral("SELECT is_read_only FROM calendars WHERE id = ?"));
     query.addBindValue(calendarId);
     if (!query.exec())
-        return tr("Could not read the calendar %1: %2").arg(calendarId, query.lastError().text());
+        return Text::tr("Could not read the calendar %1: %2").arg(calendarId, query.lastError().text());
     if (!query.next())
-        return tr("There is no calendar %1.").arg(calendarId);
+        return Text::tr("There is no calendar %1.").arg(calendarId);
     if (query.value(0).toLongLong() != 0)
-        return tr("The calendar %1 is read-only.").arg(calendarId);
+        return Text::tr("The calendar %1 is read-only.").arg(calendarId);
     return QString();
 }
 
@@ -140,16 +141,16 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
 {
     Result result;
     if (isBlank(text)) {
-        result.error = tr("The file %1 is empty.").arg(source);
+        result.error = Text::tr("The file %1 is empty.").arg(source);
         return result;
     }
     if (!looksLikeICalendar(text)) {
-        result.error = tr("The file %1 is not an iCalendar file.").arg(source);
+        result.error = Text::tr("The file %1 is not an iCalendar file.").arg(source);
         return result;
     }
     const QList<Event> parsed = ICal::parseEvents(QByteArrayView(text));
     if (parsed.isEmpty()) {
-        result.error = tr("The file %1 holds no events.").arg(source);
+        result.error = Text::tr("The file %1 holds no events.").arg(source);
         return result;
     }
     result.error = checkCalendar(database, calendarId);
@@ -176,7 +177,7 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
     QSqlDatabase connection = database.connection();
     const LargerPageCache cache(connection);
     if (!connection.transaction()) {
-        result.error = tr("Could not start the import: %1").arg(connection.lastError().text());
+        result.error = Text::tr("Could not start the import: %1").arg(connection.lastError().text());
         return result;
     }
     // The events the calendar already holds, by the key of its unique index: one pass over the
@@ -207,8 +208,8 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
         if (!stored) {
             connection.rollback();
             const QString name = event.title.isEmpty() ? event.uid : event.title;
-            return Result{0, 0,
-                          tr("Could not store the event \"%1\" from %2; nothing was imported.").arg(name, source)};
+            return Result{
+                0, 0, Text::tr("Could not store the event \"%1\" from %2; nothing was imported.").arg(name, source)};
         }
         if (progress && ((done + 1) % kProgressEvery == 0 || done + 1 == total))
             progress(done + 1, total);
@@ -216,7 +217,7 @@ Result importText(Database &database, EventRepository &repository, const QByteAr
     if (!connection.commit()) {
         const QString reason = connection.lastError().text();
         connection.rollback();
-        return Result{0, 0, tr("Could not save the import: %1").arg(reason)};
+        return Result{0, 0, Text::tr("Could not save the import: %1").arg(reason)};
     }
     return result;
 }
@@ -227,7 +228,7 @@ Result importFile(Database &database, EventRepository &repository, const QString
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Result{0, 0, tr("Cannot read %1: %2").arg(path, file.errorString())};
+        return Result{0, 0, Text::tr("Cannot read %1: %2").arg(path, file.errorString())};
     return importText(database, repository, file.readAll(), calendarId, name, progress);
 }
 
@@ -235,15 +236,15 @@ QString summary(const Result &result, const QString &calendarName)
 {
     if (result.updated == 0) {
         if (result.imported == 1)
-            return tr("Imported 1 event into %1.").arg(calendarName);
-        return tr("Imported %1 events into %2.").arg(result.imported).arg(calendarName);
+            return Text::tr("Imported 1 event into %1.").arg(calendarName);
+        return Text::tr("Imported %1 events into %2.").arg(result.imported).arg(calendarName);
     }
     if (result.imported == 0) {
         if (result.updated == 1)
-            return tr("Updated 1 existing event in %1.").arg(calendarName);
-        return tr("Updated %1 existing events in %2.").arg(result.updated).arg(calendarName);
+            return Text::tr("Updated 1 existing event in %1.").arg(calendarName);
+        return Text::tr("Updated %1 existing events in %2.").arg(result.updated).arg(calendarName);
     }
-    return tr("Imported %1 and updated %2 in %3.").arg(result.imported).arg(result.updated).arg(calendarName);
+    return Text::tr("Imported %1 and updated %2 in %3.").arg(result.imported).arg(result.updated).arg(calendarName);
 }
 
 } // namespace EventImport

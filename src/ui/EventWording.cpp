@@ -12,10 +12,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("EventWording", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(EventWording)
+};
 
 // "Tuesday, January 9", with the year when it is not the current one.
 QString dayText(const QDate &date, int currentYear)
@@ -24,13 +25,13 @@ QString dayText(const QDate &date, int currentYear)
     const QString day = locale.dayName(date.dayOfWeek(), QLocale::LongFormat);
     const QString month = locale.monthName(date.month(), QLocale::LongFormat);
     if (date.year() == currentYear)
-        return tr("%1, %2 %3").arg(day, month).arg(date.day());
-    return tr("%1, %2 %3, %4").arg(day, month).arg(date.day()).arg(date.year());
+        return Text::tr("%1, %2 %3").arg(day, month).arg(date.day());
+    return Text::tr("%1, %2 %3, %4").arg(day, month).arg(date.day()).arg(date.year());
 }
 
 QString monthDay(const QDate &date)
 {
-    return tr("%1 %2").arg(QLocale().monthName(date.month(), QLocale::LongFormat)).arg(date.day());
+    return Text::tr("%1 %2").arg(QLocale().monthName(date.month(), QLocale::LongFormat)).arg(date.day());
 }
 
 // "Monday", "Monday and Thursday", "Monday, Wednesday and Friday".
@@ -42,7 +43,7 @@ QString joinedDays(const QList<int> &days)
     if (names.size() == 1)
         return names.constFirst();
     const QString last = names.takeLast();
-    return tr("%1 and %2").arg(names.join(tr(", ")), last);
+    return Text::tr("%1 and %2").arg(names.join(Text::tr(", ")), last);
 }
 
 int weekdayNumber(const QString &code)
@@ -66,12 +67,12 @@ QString everyDays(const QList<int> &days, int interval)
 {
     const QList<int> weekdays{1, 2, 3, 4, 5};
     if (days.size() == 7 || days.isEmpty())
-        return interval == 1 ? tr("Every day") : tr("Every %1 days").arg(interval);
+        return interval == 1 ? Text::tr("Every day") : Text::tr("Every %1 days").arg(interval);
     if (interval == 1 && days == weekdays)
-        return tr("Every weekday");
+        return Text::tr("Every weekday");
     if (interval == 1)
-        return tr("Every week on %1").arg(joinedDays(days));
-    return tr("Every %1 weeks on %2").arg(interval).arg(joinedDays(days));
+        return Text::tr("Every week on %1").arg(joinedDays(days));
+    return Text::tr("Every %1 weeks on %2").arg(interval).arg(joinedDays(days));
 }
 
 } // namespace
@@ -103,23 +104,23 @@ QString timeRange(const Event &occurrence, bool twentyFourHour, int currentYear)
         if (last < first)
             last = first;
         if (last == first)
-            return tr("%1 · All day").arg(dayText(first, currentYear));
-        return tr("%1 – %2").arg(dayText(first, currentYear), dayText(last, currentYear));
+            return Text::tr("%1 · All day").arg(dayText(first, currentYear));
+        return Text::tr("%1 – %2").arg(dayText(first, currentYear), dayText(last, currentYear));
     }
 
     const QDateTime start = occurrence.start_time.toLocalTime();
     if (!occurrence.end_time)
-        return tr("%1 · %2").arg(dayText(start.date(), currentYear), timeOfDay(start.time(), twentyFourHour));
+        return Text::tr("%1 · %2").arg(dayText(start.date(), currentYear), timeOfDay(start.time(), twentyFourHour));
     const QDateTime end = occurrence.end_time->toLocalTime();
     // An event that ends at midnight belongs to the day it started on.
     const bool sameDay
         = end.date() == start.date() || (end.time() == QTime(0, 0) && end.date() == start.date().addDays(1));
     if (sameDay) {
-        return tr("%1 · %2 – %3")
+        return Text::tr("%1 · %2 – %3")
             .arg(dayText(start.date(), currentYear), timeOfDay(start.time(), twentyFourHour),
                  timeOfDay(end.time(), twentyFourHour));
     }
-    return tr("%1, %2 – %3, %4")
+    return Text::tr("%1, %2 – %3, %4")
         .arg(dayText(start.date(), currentYear), timeOfDay(start.time(), twentyFourHour),
              dayText(end.date(), currentYear), timeOfDay(end.time(), twentyFourHour));
 }
@@ -144,44 +145,45 @@ QString repeatRule(const QString &ruleText, const QDateTime &seriesStart)
         if (interval == 1 || days.isEmpty())
             text = everyDays(days, interval);
         else
-            text = tr("Every %1 days, on %2").arg(interval).arg(joinedDays(days));
+            text = Text::tr("Every %1 days, on %2").arg(interval).arg(joinedDays(days));
     } else if (rule.freq == QLatin1String("WEEKLY")) {
         if (days.isEmpty())
             days.append(seriesStart.date().dayOfWeek());
         if (days.size() == 7)
-            text = interval == 1 ? tr("Every day") : tr("Every %1 weeks, every day").arg(interval);
+            text = interval == 1 ? Text::tr("Every day") : Text::tr("Every %1 weeks, every day").arg(interval);
         else
             text = everyDays(days, interval);
     } else if (rule.freq == QLatin1String("MONTHLY")) {
         const int day = seriesStart.date().day();
-        text = interval == 1 ? tr("Every month on day %1").arg(day)
-                             : tr("Every %1 months on day %2").arg(interval).arg(day);
+        text = interval == 1 ? Text::tr("Every month on day %1").arg(day)
+                             : Text::tr("Every %1 months on day %2").arg(interval).arg(day);
     } else if (rule.freq == QLatin1String("YEARLY")) {
         const QString date = monthDay(seriesStart.date());
-        text = interval == 1 ? tr("Every year on %1").arg(date) : tr("Every %1 years on %2").arg(interval).arg(date);
+        text = interval == 1 ? Text::tr("Every year on %1").arg(date)
+                             : Text::tr("Every %1 years on %2").arg(interval).arg(date);
     } else {
         return QString();
     }
 
     if (rule.count == 1)
-        text = tr("%1, once").arg(text);
+        text = Text::tr("%1, once").arg(text);
     else if (rule.count > 1)
-        text = tr("%1, %2 times").arg(text).arg(rule.count);
+        text = Text::tr("%1, %2 times").arg(text).arg(rule.count);
     else if (rule.until.isValid())
-        text = tr("%1, until %2")
-                   .arg(text, QLocale().toString(lastDayBefore(rule.until, seriesStart), tr("MMMM d, yyyy")));
+        text = Text::tr("%1, until %2")
+                   .arg(text, QLocale().toString(lastDayBefore(rule.until, seriesStart), Text::tr("MMMM d, yyyy")));
     return text;
 }
 
 QString deleteQuestion(const QString &title)
 {
-    return tr("Delete \"%1\"? You can undo with %2.")
+    return Text::tr("Delete \"%1\"? You can undo with %2.")
         .arg(title, QKeySequence(QKeySequence::Undo).toString(QKeySequence::NativeText));
 }
 
 QString displayTitle(const QString &title)
 {
-    return title.trimmed().isEmpty() ? tr("(No title)") : title;
+    return title.trimmed().isEmpty() ? Text::tr("(No title)") : title;
 }
 
 } // namespace EventWording

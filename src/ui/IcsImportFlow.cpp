@@ -18,17 +18,18 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPushButton>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("IcsImportFlow", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(IcsImportFlow)
+};
 
 QIcon swatch(const QString &color)
 {
@@ -47,13 +48,14 @@ QString chooseCalendar(QWidget *parent, AppState *appState, const QList<Calendar
                        const QString &fileName)
 {
     QDialog dialog(parent);
-    dialog.setWindowTitle(tr("Import events"));
+    dialog.setWindowTitle(Text::tr("Import events"));
     auto *layout = new QVBoxLayout(&dialog);
-    const QString prompt = count == 1 ? tr("Import 1 event from \"%1\" into:").arg(fileName)
-                                      : tr("Import %1 events from \"%2\" into:").arg(count).arg(fileName);
+    const QString prompt = count == 1 ? Text::tr("Import 1 event from \"%1\" into:").arg(fileName)
+                                      : Text::tr("Import %1 events from \"%2\" into:").arg(count).arg(fileName);
     layout->addWidget(new QLabel(prompt, &dialog));
     auto *combo = new QComboBox(&dialog);
-    const QString preferred = appState->preferences()->value(QStringLiteral("ui/defaultCalendarId")).value_or(QString());
+    const QString preferred
+        = appState->preferences()->value(QStringLiteral("ui/defaultCalendarId")).value_or(QString());
     for (const Calendar &calendar : calendars) {
         combo->addItem(swatch(calendar.color), calendar.name, calendar.id);
         if (calendar.id == preferred)
@@ -61,7 +63,7 @@ QString chooseCalendar(QWidget *parent, AppState *appState, const QList<Calendar
     }
     layout->addWidget(combo);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, &dialog);
-    QPushButton *import = buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole);
+    QPushButton *import = buttons->addButton(Text::tr("Import"), QDialogButtonBox::AcceptRole);
     import->setDefault(true);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -77,9 +79,9 @@ namespace IcsImportFlow {
 
 QString chooseFile(QWidget *parent)
 {
-    return QFileDialog::getOpenFileName(parent, tr("Import Calendar File"),
+    return QFileDialog::getOpenFileName(parent, Text::tr("Import Calendar File"),
                                         QStandardPaths::writableLocation(QStandardPaths::DownloadLocation),
-                                        tr("iCalendar files (*.ics *.ICS);;All files (*)"));
+                                        Text::tr("iCalendar files (*.ics *.ICS);;All files (*)"));
 }
 
 void run(QWidget *parent, AppState *appState, const QString &path)
@@ -87,7 +89,8 @@ void run(QWidget *parent, AppState *appState, const QString &path)
     const QString fileName = QFileInfo(path).fileName();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        QMessageBox::warning(parent, tr("Couldn't open file"), tr("Couldn't open \"%1\" for reading.").arg(fileName));
+        QMessageBox::warning(parent, Text::tr("Couldn't open file"),
+                             Text::tr("Couldn't open \"%1\" for reading.").arg(fileName));
         return;
     }
     const QByteArray text = file.readAll();
@@ -95,7 +98,8 @@ void run(QWidget *parent, AppState *appState, const QString &path)
 
     const int count = int(ICal::parseEvents(text).size());
     if (count == 0) {
-        QMessageBox::information(parent, tr("Nothing to import"), tr("No events found in \"%1\".").arg(fileName));
+        QMessageBox::information(parent, Text::tr("Nothing to import"),
+                                 Text::tr("No events found in \"%1\".").arg(fileName));
         return;
     }
     QList<Calendar> writable;
@@ -104,8 +108,8 @@ void run(QWidget *parent, AppState *appState, const QString &path)
             writable.append(calendar);
     }
     if (writable.isEmpty()) {
-        QMessageBox::information(parent, tr("No calendars configured"),
-                                 tr("Add a writable calendar first; then re-import \"%1\".").arg(fileName));
+        QMessageBox::information(parent, Text::tr("No calendars configured"),
+                                 Text::tr("Add a writable calendar first; then re-import \"%1\".").arg(fileName));
         return;
     }
     const QString calendarId = chooseCalendar(parent, appState, writable, count, fileName);
@@ -117,20 +121,20 @@ void run(QWidget *parent, AppState *appState, const QString &path)
             calendarName = calendar.name;
     }
 
-    QProgressDialog progress(tr("Importing events…"), QString(), 0, count, parent);
-    progress.setWindowTitle(tr("Import events"));
+    QProgressDialog progress(Text::tr("Importing events…"), QString(), 0, count, parent);
+    progress.setWindowTitle(Text::tr("Import events"));
     progress.setMinimumDuration(400);
-    const EventImport::Result result = EventImport::importText(
-        *appState->database(), *appState->events(), text, calendarId, fileName, [&progress](int done, int total) {
-            progress.setMaximum(total);
-            progress.setValue(done);
-        });
+    const EventImport::Result result = EventImport::importText(*appState->database(), *appState->events(), text,
+                                                               calendarId, fileName, [&progress](int done, int total) {
+                                                                   progress.setMaximum(total);
+                                                                   progress.setValue(done);
+                                                               });
     progress.reset();
     if (!result.error.isEmpty()) {
-        QMessageBox::warning(parent, tr("Import events"), result.error);
+        QMessageBox::warning(parent, Text::tr("Import events"), result.error);
         return;
     }
-    QMessageBox::information(parent, tr("Import events"), EventImport::summary(result, calendarName));
+    QMessageBox::information(parent, Text::tr("Import events"), EventImport::summary(result, calendarName));
 }
 
 } // namespace IcsImportFlow

@@ -381,22 +381,27 @@ void MainWindow::updateRangeText()
     const QString mode = m_appState->viewMode();
     const QDate date = m_appState->viewDate();
     QString text;
+    // Translatable date formats let each language order day, month and year its own way; the two ends
+    // of a range have formats of their own because languages name the shared month or year on either end.
     if (mode == QLatin1String("month")) {
-        text = locale.toString(date, QStringLiteral("MMMM yyyy"));
+        //: Date format (QDate::toString) of the month view's title
+        text = locale.toString(date, tr("MMMM yyyy"));
     } else if (mode == QLatin1String("day")) {
-        text = locale.toString(date, QStringLiteral("dddd, MMMM d, yyyy"));
+        //: Date format (QDate::toString) of the day view's title
+        text = locale.toString(date, tr("dddd, MMMM d, yyyy"));
     } else {
         const QDate first = m_timeline->firstDay();
         const QDate last = first.addDays(m_timeline->dayCount() - 1);
         if (first.year() != last.year())
-            text = locale.toString(first, QStringLiteral("MMM d, yyyy")) + QStringLiteral(" – ")
-                + locale.toString(last, QStringLiteral("MMM d, yyyy"));
+            //: Date format (QDate::toString) of both ends of a range across two years
+            text = locale.toString(first, tr("MMM d, yyyy")) + QStringLiteral(" – ")
+                + locale.toString(last, tr("MMM d, yyyy"));
         else if (first.month() != last.month())
-            text = locale.toString(first, QStringLiteral("MMM d")) + QStringLiteral(" – ")
-                + locale.toString(last, QStringLiteral("MMM d, yyyy"));
+            text = locale.toString(first, tr("MMM d", "first day of a range across two months")) + QStringLiteral(" – ")
+                + locale.toString(last, tr("MMM d, yyyy", "last day of a range across two months"));
         else
-            text = locale.toString(first, QStringLiteral("MMMM d")) + QStringLiteral(" – ")
-                + QString::number(last.day()) + QStringLiteral(", ") + QString::number(last.year());
+            text = locale.toString(first, tr("MMMM d", "first day of a range within one month")) + QStringLiteral(" – ")
+                + locale.toString(last, tr("d, yyyy", "last day of a range within one month"));
     }
     m_toolbar->setRangeText(text);
     setWindowTitle(text + QStringLiteral(" — ") + tr("Kettlebrook Calendar"));

@@ -273,8 +273,9 @@ void MiniMonth::paintEvent(QPaintEvent *)
     p.setFont(titleFont);
     p.setPen(c.text);
     const int titleHeight = QFontMetrics(titleFont).height() + 16;
+    //: Date format (QDate::toString) of the title of the small month calendar
     p.drawText(QRect(kMargin + 4, kTop, m_previous->x() - kMargin - 8, titleHeight), Qt::AlignVCenter | Qt::AlignLeft,
-               locale.toString(m_month, QStringLiteral("MMMM yyyy")));
+               locale.toString(m_month, tr("MMMM yyyy")));
 
     const QFont small = scaled(font(), 0.8, QFont::DemiBold);
     p.setFont(small);

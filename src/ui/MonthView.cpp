@@ -183,8 +183,8 @@ void MonthView::Private::relayout()
         const QDate date = first.addDays(i);
         MonthPainter::Cell &cell = cells[i];
         cell.rect = geometry.cellRect(i / kDaysPerWeek, i % kDaysPerWeek);
-        cell.numberText
-            = date.day() == 1 ? locale.toString(date, QStringLiteral("MMM d")) : QString::number(date.day());
+        //: Date format (QDate::toString) of the first day of a month in its cell
+        cell.numberText = date.day() == 1 ? locale.toString(date, MonthView::tr("MMM d")) : QString::number(date.day());
         cell.number = geometry.numberRect(cell.rect, cell.numberText);
     }
     if (!data)

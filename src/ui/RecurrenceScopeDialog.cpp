@@ -14,10 +14,11 @@
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("RecurrenceScopeDialog", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RecurrenceScopeDialog)
+};
 
 } // namespace
 
@@ -39,7 +40,7 @@ bool ask(QWidget *parent, EventEditor::Scope *scope, const QString &verb)
     heading->setFont(headingFont);
     layout->addWidget(heading);
 
-    auto *prompt = new QLabel(tr("This is one event of a repeating series. Apply to:"), &dialog);
+    auto *prompt = new QLabel(Text::tr("This is one event of a repeating series. Apply to:"), &dialog);
     prompt->setWordWrap(true);
     prompt->setForegroundRole(QPalette::PlaceholderText);
     layout->addWidget(prompt);
@@ -53,9 +54,9 @@ bool ask(QWidget *parent, EventEditor::Scope *scope, const QString &verb)
         layout->addWidget(radio);
         return radio;
     };
-    addChoice(tr("Only this event"), kThisEventName, EventEditor::Scope::ThisEvent)->setChecked(true);
-    addChoice(tr("This and following events"), kThisAndFollowingName, EventEditor::Scope::ThisAndFollowing);
-    addChoice(tr("All events"), kAllEventsName, EventEditor::Scope::AllEvents);
+    addChoice(Text::tr("Only this event"), kThisEventName, EventEditor::Scope::ThisEvent)->setChecked(true);
+    addChoice(Text::tr("This and following events"), kThisAndFollowingName, EventEditor::Scope::ThisAndFollowing);
+    addChoice(Text::tr("All events"), kAllEventsName, EventEditor::Scope::AllEvents);
     layout->addSpacing(12);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);

@@ -109,10 +109,11 @@ QDateTime inFormOf(const QDateTime &instant, const QDateTime &reference)
 
 namespace {
 
-QString tr(const char *text)
+// tr() for this file's free functions; lupdate takes the context from the macro.
+struct Text
 {
-    return QCoreApplication::translate("TimelineView", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TimelineView)
+};
 
 // "9", "9:30": the 12-hour clock without its AM/PM.
 QString twelveHourNumber(const QTime &time)
@@ -125,7 +126,7 @@ QString twelveHourNumber(const QTime &time)
 
 QString withMeridiem(const QString &number, const QTime &time)
 {
-    return time.hour() < 12 ? tr("%1 AM").arg(number) : tr("%1 PM").arg(number);
+    return time.hour() < 12 ? Text::tr("%1 AM").arg(number) : Text::tr("%1 PM").arg(number);
 }
 
 } // namespace
