@@ -53,6 +53,10 @@ Application::~Application()
 void Application::installTranslators()
 {
     const QString language = Translations::resolvedLanguage(true);
+    // A language chosen in the settings also decides how dates are written, so that day and
+    // month names match the interface; "system" leaves the system's conventions in place.
+    if (Translations::resolvedLanguage(false) != QLatin1String("system"))
+        QLocale::setDefault(QLocale(language));
     if (language != QLatin1String("en")) {
         auto *qtTranslator = new QTranslator(this);
         if (qtTranslator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
