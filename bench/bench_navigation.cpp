@@ -84,8 +84,8 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.addOption({QStringLiteral("ics"), QStringLiteral("Calendar file."), QStringLiteral("FILE"),
                       QStringLiteral("build/bench-data/bench100k.ics")});
-    parser.addOption({QStringLiteral("steps"), QStringLiteral("Steps per series."), QStringLiteral("N"),
-                      QStringLiteral("40")});
+    parser.addOption(
+        {QStringLiteral("steps"), QStringLiteral("Steps per series."), QStringLiteral("N"), QStringLiteral("40")});
     parser.process(app);
     const int steps = std::max(4, parser.value(QStringLiteral("steps")).toInt());
 
@@ -98,8 +98,8 @@ int main(int argc, char *argv[])
         const CalendarChoice::Choice choice = CalendarChoice::forNewEvents(*state.database());
         QElapsedTimer timer;
         timer.start();
-        const EventImport::Result result = EventImport::importFile(*state.database(), *state.events(),
-                                                                   parser.value(QStringLiteral("ics")), choice.calendar->id);
+        const EventImport::Result result = EventImport::importFile(
+            *state.database(), *state.events(), parser.value(QStringLiteral("ics")), choice.calendar->id);
         if (!result.error.isEmpty()) {
             std::fprintf(stderr, "%s\n", qPrintable(result.error));
             return 1;

@@ -41,18 +41,61 @@ QString normalizedViewMode(const QString &mode)
 bool startsWeekOnSunday(QLocale::Territory territory)
 {
     static const QSet<QLocale::Territory> sundayFirst = {
-        QLocale::AntiguaAndBarbuda, QLocale::AmericanSamoa, QLocale::Bangladesh, QLocale::Brazil,
-        QLocale::Bahamas, QLocale::Bhutan, QLocale::Botswana, QLocale::Belize, QLocale::Canada,
-        QLocale::Colombia, QLocale::Dominica, QLocale::DominicanRepublic, QLocale::Ethiopia,
-        QLocale::Guatemala, QLocale::Guam, QLocale::HongKong, QLocale::Honduras, QLocale::Indonesia,
-        QLocale::Israel, QLocale::India, QLocale::Jamaica, QLocale::Japan, QLocale::Kenya, QLocale::Cambodia,
-        QLocale::SouthKorea, QLocale::Laos, QLocale::MarshallIslands, QLocale::Myanmar, QLocale::Macao,
-        QLocale::Malta, QLocale::Mexico, QLocale::Mozambique, QLocale::Nicaragua, QLocale::Nepal, QLocale::Panama,
-        QLocale::Peru, QLocale::Philippines, QLocale::Pakistan, QLocale::PuertoRico, QLocale::Portugal,
-        QLocale::Paraguay, QLocale::SaudiArabia, QLocale::Singapore, QLocale::ElSalvador, QLocale::Thailand,
-        QLocale::TrinidadAndTobago, QLocale::Taiwan, QLocale::UnitedStatesOutlyingIslands, QLocale::UnitedStates,
-        QLocale::Venezuela, QLocale::UnitedStatesVirginIslands, QLocale::Samoa, QLocale::Yemen,
-        QLocale::SouthAfrica, QLocale::Zimbabwe,
+        QLocale::AntiguaAndBarbuda,
+        QLocale::AmericanSamoa,
+        QLocale::Bangladesh,
+        QLocale::Brazil,
+        QLocale::Bahamas,
+        QLocale::Bhutan,
+        QLocale::Botswana,
+        QLocale::Belize,
+        QLocale::Canada,
+        QLocale::Colombia,
+        QLocale::Dominica,
+        QLocale::DominicanRepublic,
+        QLocale::Ethiopia,
+        QLocale::Guatemala,
+        QLocale::Guam,
+        QLocale::HongKong,
+        QLocale::Honduras,
+        QLocale::Indonesia,
+        QLocale::Israel,
+        QLocale::India,
+        QLocale::Jamaica,
+        QLocale::Japan,
+        QLocale::Kenya,
+        QLocale::Cambodia,
+        QLocale::SouthKorea,
+        QLocale::Laos,
+        QLocale::MarshallIslands,
+        QLocale::Myanmar,
+        QLocale::Macao,
+        QLocale::Malta,
+        QLocale::Mexico,
+        QLocale::Mozambique,
+        QLocale::Nicaragua,
+        QLocale::Nepal,
+        QLocale::Panama,
+        QLocale::Peru,
+        QLocale::Philippines,
+        QLocale::Pakistan,
+        QLocale::PuertoRico,
+        QLocale::Portugal,
+        QLocale::Paraguay,
+        QLocale::SaudiArabia,
+        QLocale::Singapore,
+        QLocale::ElSalvador,
+        QLocale::Thailand,
+        QLocale::TrinidadAndTobago,
+        QLocale::Taiwan,
+        QLocale::UnitedStatesOutlyingIslands,
+        QLocale::UnitedStates,
+        QLocale::Venezuela,
+        QLocale::UnitedStatesVirginIslands,
+        QLocale::Samoa,
+        QLocale::Yemen,
+        QLocale::SouthAfrica,
+        QLocale::Zimbabwe,
     };
     return sundayFirst.contains(territory);
 }
@@ -61,8 +104,7 @@ bool startsWeekOnSunday(QLocale::Territory territory)
 
 AppState::AppState(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 AppState::~AppState()
 {
@@ -127,7 +169,8 @@ bool AppState::initialize(const QString &databasePath)
     else
         seedLocalData();
 
-    const QString storedView = m_preferences->value(QStringLiteral("ui/activeViewId")).value_or(QStringLiteral("all-calendars"));
+    const QString storedView
+        = m_preferences->value(QStringLiteral("ui/activeViewId")).value_or(QStringLiteral("all-calendars"));
     const std::optional<CalendarView> view = m_views->getById(storedView);
     if (view && !view->deleted_at) {
         m_activeViewId = storedView;
@@ -136,11 +179,12 @@ bool AppState::initialize(const QString &databasePath)
         m_activeViewId = all.isEmpty() ? QString() : all.constFirst().id;
     }
     m_viewDate = Clock::nowLocal().date();
-    m_viewMode = normalizedViewMode(m_preferences->value(QStringLiteral("ui/viewMode")).value_or(QStringLiteral("week")));
-    m_hourHeight = qBound(kMinHourHeight, m_preferences->intValue(QStringLiteral("ui/timelineHourHeight"), 56),
-                          kMaxHourHeight);
-    m_weekHorizon = qBound(kMinWeekHorizon, m_preferences->intValue(QStringLiteral("ui/weekHorizon"), 7),
-                           kMaxWeekHorizon);
+    m_viewMode
+        = normalizedViewMode(m_preferences->value(QStringLiteral("ui/viewMode")).value_or(QStringLiteral("week")));
+    m_hourHeight
+        = qBound(kMinHourHeight, m_preferences->intValue(QStringLiteral("ui/timelineHourHeight"), 56), kMaxHourHeight);
+    m_weekHorizon
+        = qBound(kMinWeekHorizon, m_preferences->intValue(QStringLiteral("ui/weekHorizon"), 7), kMaxWeekHorizon);
     emit databaseReady();
     return true;
 }
@@ -348,8 +392,9 @@ void AppState::setLastSyncErrored(bool errored)
 
 QSet<QString> AppState::remoteCalendarIds() const
 {
-    static const QSet<QString> remoteTypes = {QStringLiteral("caldav"), QStringLiteral("icloud"), QStringLiteral("zoho"),
-                                              QStringLiteral("google"), QStringLiteral("microsoft")};
+    static const QSet<QString> remoteTypes
+        = {QStringLiteral("caldav"), QStringLiteral("icloud"), QStringLiteral("zoho"), QStringLiteral("google"),
+           QStringLiteral("microsoft")};
     QSet<QString> remoteAccounts;
     for (const Account &account : m_accounts->getAll()) {
         if (remoteTypes.contains(account.type))

@@ -5,27 +5,27 @@
 #include "app/AppState.h"
 #include "app/NotificationService.h"
 #include "app/PlatformIntegration.h"
+#include "app/SingleInstance.h"
+#include "app/Translations.h"
 #include "cloud/UpdateClient.h"
 #include "storage/AccountRepository.h"
+#include "storage/LogCategories.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/IconFont.h"
 #include "ui/MainWindow.h"
 #include "ui/TrayManager.h"
 #include "ui/UpdateDialog.h"
-#include "app/SingleInstance.h"
-#include "app/Translations.h"
-#include "storage/LogCategories.h"
 
 #include <QFont>
 #include <QFontDatabase>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
+#include <QMessageBox>
 #include <QStyleFactory>
 #include <QSystemTrayIcon>
 #include <QTimer>
-#include <QMessageBox>
 #include <QTranslator>
 
 Application::Application(int &argc, char **argv)
@@ -142,8 +142,8 @@ int Application::run()
             QPointer<SingleInstance> guard = m_singleInstance;
             QTimer::singleShot(0, this, [guard, command] {
                 if (guard)
-                    QMetaObject::invokeMethod(guard, [guard, command] { guard->dispatchCommand(command); },
-                                              Qt::QueuedConnection);
+                    QMetaObject::invokeMethod(
+                        guard, [guard, command] { guard->dispatchCommand(command); }, Qt::QueuedConnection);
             });
         }
     }
@@ -161,9 +161,10 @@ int Application::run()
     connect(m_notifications, &NotificationService::reminderClicked, m_mainWindow.get(), &MainWindow::openEventOnDate);
 
     QTimer::singleShot(kUpdateCheckDelayMs, this, [this] {
-        auto *client = new KettUpdate::Client(QStringLiteral("calendar"), QStringLiteral("stable"),
-                                              QUrl(QStringLiteral("https://releases.kettlebrook.app/calendar/manifest.json")),
-                                              QStringLiteral("1.3.2"), this);
+        auto *client
+            = new KettUpdate::Client(QStringLiteral("calendar"), QStringLiteral("stable"),
+                                     QUrl(QStringLiteral("https://releases.kettlebrook.app/calendar/manifest.json")),
+                                     QStringLiteral("1.3.2"), this);
         connect(client, &KettUpdate::Client::updateAvailable, this, [this](const KettUpdate::Artifact &artifact) {
             auto *dialog = new KettUpdate::UpdateDialog(artifact, QStringLiteral("Kettlebrook Calendar"),
                                                         QStringLiteral("1.3.2"), m_mainWindow.get());

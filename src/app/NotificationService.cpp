@@ -29,8 +29,8 @@ NotificationService::NotificationService(AppState *appState, QSystemTrayIcon *tr
 QString NotificationService::timeText(const QDateTime &start) const
 {
     PreferencesRepository *preferences = m_appState ? m_appState->preferences() : nullptr;
-    const bool twentyFour
-        = preferences && preferences->value(QStringLiteral("ui/timeFormat")).value_or(QStringLiteral("12")) == QLatin1String("24");
+    const bool twentyFour = preferences
+        && preferences->value(QStringLiteral("ui/timeFormat")).value_or(QStringLiteral("12")) == QLatin1String("24");
     return start.toLocalTime().time().toString(twentyFour ? QStringLiteral("HH:mm") : QStringLiteral("h:mm AP"));
 }
 
@@ -40,7 +40,8 @@ void NotificationService::poll()
         return;
     QSqlQuery query(m_appState->database()->connection());
     if (!query.exec(QStringLiteral(
-            "SELECT r.id, e.title, e.start_time, e.location, r.minutes_before,        r.trigger_time, e.id FROM reminders "
+            "SELECT r.id, e.title, e.start_time, e.location, r.minutes_before,        r.trigger_time, e.id FROM "
+            "reminders "
             "r JOIN events e ON r.event_id = e.id WHERE r.acknowledged = 0 AND e.deleted_at IS NULL ORDER BY "
             "r.trigger_time ASC"))) {
         qCWarning(lcNotifications).noquote() << "NotificationService poll failed:" << query.lastError().text();
@@ -92,7 +93,8 @@ void NotificationService::poll()
     for (qsizetype i = 0; i < shown.size(); ++i)
         placeholders.append(QStringLiteral("?"));
     QSqlQuery ack(m_appState->database()->connection());
-    ack.prepare(QStringLiteral("UPDATE reminders SET acknowledged = 1 WHERE id IN (%1)").arg(placeholders.join(QLatin1Char(','))));
+    ack.prepare(QStringLiteral("UPDATE reminders SET acknowledged = 1 WHERE id IN (%1)")
+                    .arg(placeholders.join(QLatin1Char(','))));
     for (const QString &id : std::as_const(shown))
         ack.addBindValue(id);
     if (!ack.exec())

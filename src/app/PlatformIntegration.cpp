@@ -147,7 +147,8 @@ void setAutostartEnabled(bool enabled)
 {
     QSettings run(kRunKey, QSettings::NativeFormat);
     if (enabled)
-        run.setValue(autostartValueName(), QStringLiteral("\"%1\" %2").arg(programPath(), QStringLiteral("--background")));
+        run.setValue(autostartValueName(),
+                     QStringLiteral("\"%1\" %2").arg(programPath(), QStringLiteral("--background")));
     else
         run.remove(autostartValueName());
 }

@@ -22,8 +22,7 @@ constexpr int kIdleConnectionMs = 10000;
 
 SingleInstance::SingleInstance(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 QString SingleInstance::serverName()
 {
@@ -90,8 +89,8 @@ bool SingleInstance::forwardToRunningInstance(const QStringList &arguments)
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server, &QLocalServer::newConnection, this, &SingleInstance::acceptConnections);
     if (!m_server->listen(name)) {
-        qCWarning(lcSingleInstance).noquote() << "[SingleInstance] failed to listen on" << name << ":"
-                                              << m_server->errorString();
+        qCWarning(lcSingleInstance).noquote()
+            << "[SingleInstance] failed to listen on" << name << ":" << m_server->errorString();
     }
     return false;
 }
@@ -112,8 +111,8 @@ void SingleInstance::readMessages(QLocalSocket *socket)
     while (socket->canReadLine()) {
         const QByteArray line = socket->readLine(kMaxMessageBytes + 1);
         if (line.size() > kMaxMessageBytes) {
-            qCWarning(lcSingleInstance).noquote() << "[SingleInstance] bad command: message longer than"
-                                                  << kMaxMessageBytes << "bytes";
+            qCWarning(lcSingleInstance).noquote()
+                << "[SingleInstance] bad command: message longer than" << kMaxMessageBytes << "bytes";
             socket->abort();
             emit focusRequested();
             return;
@@ -122,8 +121,8 @@ void SingleInstance::readMessages(QLocalSocket *socket)
     }
     // A partial line waits for more data, but not without bound.
     if (socket->bytesAvailable() > kMaxMessageBytes) {
-        qCWarning(lcSingleInstance).noquote() << "[SingleInstance] bad command: message longer than"
-                                              << kMaxMessageBytes << "bytes";
+        qCWarning(lcSingleInstance).noquote()
+            << "[SingleInstance] bad command: message longer than" << kMaxMessageBytes << "bytes";
         socket->abort();
         emit focusRequested();
     }

@@ -3,8 +3,7 @@
 
 UndoStack::UndoStack(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 void UndoStack::push(UndoEntry entry)
 {

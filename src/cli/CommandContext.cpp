@@ -58,9 +58,11 @@ AppState *CommandContext::state()
         Database *database = state->database();
         const QString reason = database ? database->lastError() : QString();
         if (!database || !database->isOpen())
-            fail(QCoreApplication::translate("kbcal", "cannot open the calendar database in %1: %2").arg(folder, reason));
+            fail(QCoreApplication::translate("kbcal", "cannot open the calendar database in %1: %2")
+                     .arg(folder, reason));
         else
-            fail(QCoreApplication::translate("kbcal", "cannot prepare the calendar database in %1: %2").arg(folder, reason));
+            fail(QCoreApplication::translate("kbcal", "cannot prepare the calendar database in %1: %2")
+                     .arg(folder, reason));
         return nullptr;
     }
     m_stateFailed = false;

@@ -4,20 +4,11 @@
 const QList<CommandSpec> &allCommands()
 {
     static const QList<CommandSpec> commands = {
-        initCommand(),
-        icsParseCommand(),
-        icsExpandCommand(),
-        addCommand(),
-        agendaCommand(),
-        calendarsCommand(),
-        accountsCommand(),
-        importCommand(),
-        exportCommand(),
-        tasksCommand(),
-        taskCompleteCommand(),
-        taskReopenCommand(),
-        sampleDataAddCommand(),
-        sampleDataRemoveCommand(),
+        initCommand(),          icsParseCommand(),         icsExpandCommand(),
+        addCommand(),           agendaCommand(),           calendarsCommand(),
+        accountsCommand(),      importCommand(),           exportCommand(),
+        tasksCommand(),         taskCompleteCommand(),     taskReopenCommand(),
+        sampleDataAddCommand(), sampleDataRemoveCommand(),
     };
     return commands;
 }

@@ -19,7 +19,8 @@ ServiceEndpoints ServiceEndpoints::fromEnvironment()
     endpoints.authApiUrl = Kettlebrook::fromEnvironment("AUTH_API_URL", QStringLiteral("https://auth.kettlebrook.app"));
     endpoints.accountApiUrl
         = Kettlebrook::fromEnvironment("ACCOUNT_API_URL", QStringLiteral("https://account.kettlebrook.app/v1"));
-    endpoints.syncApiUrl = Kettlebrook::fromEnvironment("SYNC_API_URL", QStringLiteral("https://calendar.kettlebrook.app/v1"));
+    endpoints.syncApiUrl
+        = Kettlebrook::fromEnvironment("SYNC_API_URL", QStringLiteral("https://calendar.kettlebrook.app/v1"));
     endpoints.authRealmSlug = Kettlebrook::fromEnvironment("AUTH_REALM_SLUG", QStringLiteral("kettlebrook"));
     endpoints.authClientId
         = Kettlebrook::fromEnvironment("AUTH_CLIENT_ID", QStringLiteral("6b657474c1eb400ca1e7da5c0ffee421"));
@@ -32,8 +33,7 @@ AccountClient::AccountClient(const ServiceEndpoints &endpoints, const QString &p
     : QObject(parent)
     , m_endpoints(endpoints)
     , m_productName(productName)
-{
-}
+{ }
 
 bool AccountClient::restoreSession()
 {

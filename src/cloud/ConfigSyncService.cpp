@@ -8,8 +8,7 @@ namespace Kettlebrook {
 ConfigSyncService::ConfigSyncService(AccountClient *account, QObject *parent)
     : QObject(parent)
     , m_account(account)
-{
-}
+{ }
 
 bool ConfigSyncService::isActive() const
 {
@@ -18,12 +17,8 @@ bool ConfigSyncService::isActive() const
 
 // Configuration sync needs a signed-in account; until signing in exists there is nothing to send
 // or fetch, so both entry points leave everything as it is.
-void ConfigSyncService::start()
-{
-}
+void ConfigSyncService::start() { }
 
-void ConfigSyncService::push()
-{
-}
+void ConfigSyncService::push() { }
 
 } // namespace Kettlebrook

@@ -121,8 +121,10 @@ QByteArray updatedText(const QByteArray &previous, const Event &event)
         if (lines.eventEnd >= 0) {
             const QDate first = event.start_time.date();
             const QDate afterLast = event.end_time ? event.end_time->date() : first.addDays(1);
-            lines.lines.insert(lines.eventEnd, "DTEND;VALUE=DATE:" + afterLast.toString(QStringLiteral("yyyyMMdd")).toLatin1());
-            lines.lines.insert(lines.eventEnd, "DTSTART;VALUE=DATE:" + first.toString(QStringLiteral("yyyyMMdd")).toLatin1());
+            lines.lines.insert(lines.eventEnd,
+                               "DTEND;VALUE=DATE:" + afterLast.toString(QStringLiteral("yyyyMMdd")).toLatin1());
+            lines.lines.insert(lines.eventEnd,
+                               "DTSTART;VALUE=DATE:" + first.toString(QStringLiteral("yyyyMMdd")).toLatin1());
             text = join(lines.lines);
         }
     } else {
@@ -130,7 +132,8 @@ QByteArray updatedText(const QByteArray &previous, const Event &event)
         Lines lines = split(text);
         removeProperty(lines, {"DURATION"});
         for (qsizetype i = lines.eventEnd - 1; i > lines.eventBegin && lines.eventEnd >= 0; --i) {
-            if (lines.lines.at(i).startsWith("DTSTART;VALUE=DATE") || lines.lines.at(i).startsWith("DTEND;VALUE=DATE")) {
+            if (lines.lines.at(i).startsWith("DTSTART;VALUE=DATE")
+                || lines.lines.at(i).startsWith("DTEND;VALUE=DATE")) {
                 lines.lines.removeAt(i);
                 --lines.eventEnd;
             }
@@ -149,8 +152,9 @@ QByteArray updatedText(const QByteArray &previous, const Event &event)
     removeProperty(lines, {"EXDATE"});
     for (const QString &exception : StorageFormat::parseStringListJson(event.exception_dates)) {
         if (!exception.isEmpty() && lines.eventEnd >= 0)
-            lines.lines.insert(lines.eventEnd++, (exception.contains(QLatin1Char('T')) ? "EXDATE:" : "EXDATE;VALUE=DATE:")
-                                                     + exception.toLatin1());
+            lines.lines.insert(lines.eventEnd++,
+                               (exception.contains(QLatin1Char('T')) ? "EXDATE:" : "EXDATE;VALUE=DATE:")
+                                   + exception.toLatin1());
     }
     text = join(lines.lines);
     if (event.sequence > 0)

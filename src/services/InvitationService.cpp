@@ -5,7 +5,6 @@ namespace Invitations {
 
 Service::Service(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 } // namespace Invitations

@@ -5,7 +5,6 @@ namespace Weather {
 
 Service::Service(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 } // namespace Weather

@@ -110,8 +110,9 @@ bool AccountRepository::insert(const Account &account)
                        "sync_interval_minutes, last_sync_time, last_sync_error, enabled, color, exclude_from_sync, "
                        "trusted_cert_sha256, pending_cert_sha256, created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, "
                        "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {requiredText(account.id), requiredText(account.name), requiredText(account.type), requiredText(account.server_url), requiredText(account.username),
-         requiredText(account.calendar_home_set), requiredText(account.principal_url), account.sync_interval_minutes,
+        {requiredText(account.id), requiredText(account.name), requiredText(account.type),
+         requiredText(account.server_url), requiredText(account.username), requiredText(account.calendar_home_set),
+         requiredText(account.principal_url), account.sync_interval_minutes,
          StorageFormat::dateTimeValue(account.last_sync_time), requiredText(account.last_sync_error),
          StorageFormat::boolValue(account.enabled), requiredText(account.color),
          StorageFormat::boolValue(account.exclude_from_sync), requiredText(account.trusted_cert_sha256),
@@ -135,12 +136,13 @@ bool AccountRepository::update(const Account &account)
                        "principal_url = ?, sync_interval_minutes = ?, last_sync_time = ?, last_sync_error = ?, "
                        "enabled = ?, color = ?, exclude_from_sync = ?, trusted_cert_sha256 = ?, "
                        "pending_cert_sha256 = ?, updated_at = ? WHERE id = ?"),
-        {requiredText(account.name), requiredText(account.type), requiredText(account.server_url), requiredText(account.username),
-         requiredText(account.calendar_home_set), requiredText(account.principal_url), account.sync_interval_minutes,
-         StorageFormat::dateTimeValue(account.last_sync_time), requiredText(account.last_sync_error),
-         StorageFormat::boolValue(account.enabled), requiredText(account.color),
+        {requiredText(account.name), requiredText(account.type), requiredText(account.server_url),
+         requiredText(account.username), requiredText(account.calendar_home_set), requiredText(account.principal_url),
+         account.sync_interval_minutes, StorageFormat::dateTimeValue(account.last_sync_time),
+         requiredText(account.last_sync_error), StorageFormat::boolValue(account.enabled), requiredText(account.color),
          StorageFormat::boolValue(account.exclude_from_sync), requiredText(account.trusted_cert_sha256),
-         requiredText(account.pending_cert_sha256), StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(account.id)});
+         requiredText(account.pending_cert_sha256), StorageFormat::dateTimeValue(Clock::nowUtc()),
+         requiredText(account.id)});
     if (!ok) {
         SqlSupport::logFailure("AccountRepository::update failed:", query.lastError());
         return false;
@@ -154,7 +156,7 @@ bool AccountRepository::softDelete(const QString &id)
     const QVariant now = StorageFormat::dateTimeValue(Clock::nowUtc());
     QSqlQuery query(m_database->connection());
     if (!SqlSupport::exec(query, QStringLiteral("UPDATE accounts SET deleted_at = ?, updated_at = ? WHERE id = ?"),
-                             {now, now, requiredText(id)})) {
+                          {now, now, requiredText(id)})) {
         SqlSupport::logFailure("AccountRepository::remove failed:", query.lastError());
         return false;
     }
@@ -173,7 +175,7 @@ bool AccountRepository::reapTombstone(const QString &id)
 {
     QSqlQuery query(m_database->connection());
     if (!SqlSupport::exec(query, QStringLiteral("DELETE FROM accounts WHERE id = ? AND deleted_at IS NOT NULL"),
-                             {requiredText(id)})) {
+                          {requiredText(id)})) {
         SqlSupport::logFailure("AccountRepository::reapTombstone failed:", query.lastError());
         return false;
     }
@@ -186,7 +188,7 @@ bool AccountRepository::reorder(const QStringList &ids)
     if (ids.isEmpty())
         return true;
     if (!SqlSupport::reorder(m_database->connection(),
-                                QStringLiteral("UPDATE accounts SET sort_order = ?, updated_at = ? WHERE id = ?"), ids))
+                             QStringLiteral("UPDATE accounts SET sort_order = ?, updated_at = ? WHERE id = ?"), ids))
         return false;
     emit accountsChanged();
     return true;
@@ -224,9 +226,8 @@ int AccountRepository::dedupeCalDavAccounts()
             if (!db.transaction())
                 return collapsed;
             QSqlQuery move(db);
-            bool ok
-                = SqlSupport::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
-                                      {requiredText(keeperId), requiredText(duplicateId)});
+            bool ok = SqlSupport::exec(move, QStringLiteral("UPDATE calendars SET account_id = ? WHERE account_id = ?"),
+                                       {requiredText(keeperId), requiredText(duplicateId)});
             move.finish();
             ok = ok && softDelete(duplicateId);
             if (!ok || !db.commit()) {

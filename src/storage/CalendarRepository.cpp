@@ -185,9 +185,9 @@ bool CalendarRepository::setDefault(const QString &id)
 
     QSqlQuery clear(db);
     if (!SqlSupport::exec(clear,
-                             QStringLiteral("UPDATE calendars SET is_default = 0, updated_at = ? WHERE is_default = 1 "
-                                            "AND id != ?"),
-                             {now, requiredText(id)})) {
+                          QStringLiteral("UPDATE calendars SET is_default = 0, updated_at = ? WHERE is_default = 1 "
+                                         "AND id != ?"),
+                          {now, requiredText(id)})) {
         SqlSupport::logFailure("CalendarRepository::setDefault clear failed:", clear.lastError());
         clear.finish();
         db.rollback();
@@ -197,7 +197,7 @@ bool CalendarRepository::setDefault(const QString &id)
 
     QSqlQuery set(db);
     if (!SqlSupport::exec(set, QStringLiteral("UPDATE calendars SET is_default = 1, updated_at = ? WHERE id = ?"),
-                             {now, requiredText(id)})) {
+                          {now, requiredText(id)})) {
         SqlSupport::logFailure("CalendarRepository::setDefault set failed:", set.lastError());
         set.finish();
         db.rollback();

@@ -69,7 +69,8 @@ QList<FilterRule> FilterRuleRepository::getAllIncludingDeleted() const
 
 std::optional<FilterRule> FilterRuleRepository::getById(const QString &id) const
 {
-    const QList<FilterRule> found = select(QStringLiteral("SELECT %1 FROM filter_rules WHERE id = ?"), {requiredText(id)});
+    const QList<FilterRule> found
+        = select(QStringLiteral("SELECT %1 FROM filter_rules WHERE id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -91,9 +92,10 @@ bool FilterRuleRepository::insert(const FilterRule &rule)
         QStringLiteral("INSERT INTO filter_rules (id, name, type, enabled, calendar_ids, conditions, action, priority, "
                        "event_uid, event_calendar_id, suppress_reminders, sync_status, created_at, updated_at) "
                        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-        {requiredText(rule.id), requiredText(rule.name), requiredText(rule.type), StorageFormat::boolValue(rule.enabled),
-         requiredText(rule.calendar_ids), requiredText(rule.conditions), requiredText(rule.action), rule.priority, requiredText(rule.event_uid),
-         requiredText(rule.event_calendar_id), StorageFormat::boolValue(rule.suppress_reminders), requiredText(rule.sync_status),
+        {requiredText(rule.id), requiredText(rule.name), requiredText(rule.type),
+         StorageFormat::boolValue(rule.enabled), requiredText(rule.calendar_ids), requiredText(rule.conditions),
+         requiredText(rule.action), rule.priority, requiredText(rule.event_uid), requiredText(rule.event_calendar_id),
+         StorageFormat::boolValue(rule.suppress_reminders), requiredText(rule.sync_status),
          StorageFormat::dateTimeValue(rule.created_at.isValid() ? rule.created_at : now),
          StorageFormat::dateTimeValue(rule.updated_at.isValid() ? rule.updated_at : now)});
     if (!ok) {
@@ -112,8 +114,9 @@ bool FilterRuleRepository::update(const FilterRule &rule)
         QStringLiteral("UPDATE filter_rules SET name = ?, type = ?, enabled = ?, calendar_ids = ?, conditions = ?, "
                        "action = ?, priority = ?, event_uid = ?, event_calendar_id = ?, suppress_reminders = ?, "
                        "sync_status = ?, updated_at = ? WHERE id = ?"),
-        {requiredText(rule.name), requiredText(rule.type), StorageFormat::boolValue(rule.enabled), requiredText(rule.calendar_ids),
-         requiredText(rule.conditions), requiredText(rule.action), rule.priority, requiredText(rule.event_uid), requiredText(rule.event_calendar_id),
+        {requiredText(rule.name), requiredText(rule.type), StorageFormat::boolValue(rule.enabled),
+         requiredText(rule.calendar_ids), requiredText(rule.conditions), requiredText(rule.action), rule.priority,
+         requiredText(rule.event_uid), requiredText(rule.event_calendar_id),
          StorageFormat::boolValue(rule.suppress_reminders), requiredText(rule.sync_status),
          StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(rule.id)});
     if (!ok) {

@@ -45,9 +45,9 @@ bool PreferencesRepository::setValue(const QString &key, const QString &value)
 {
     QSqlQuery query(m_database->connection());
     if (!SqlSupport::exec(query,
-                             QStringLiteral("INSERT INTO settings (key, value) VALUES (?, ?) ON CONFLICT(key) DO "
-                                            "UPDATE SET value = excluded.value"),
-                             {requiredText(key), requiredText(value)}))
+                          QStringLiteral("INSERT INTO settings (key, value) VALUES (?, ?) ON CONFLICT(key) DO "
+                                         "UPDATE SET value = excluded.value"),
+                          {requiredText(key), requiredText(value)}))
         return false;
     emit changed(key);
     return true;

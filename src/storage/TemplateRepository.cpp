@@ -91,11 +91,11 @@ std::optional<Template> TemplateRepository::insert(const Template &preset)
         QStringLiteral("INSERT INTO event_templates (id, name, title, description, location, color, is_all_day, "
                        "duration_minutes, recurrence_rule, calendar_id, reminders, sort_order, sync_status, "
                        "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, 'pending', ?, ?)"),
-        {requiredText(stored.id), requiredText(stored.name), requiredText(stored.title), requiredText(stored.description), requiredText(stored.location),
-         requiredText(stored.color), StorageFormat::boolValue(stored.is_all_day), stored.duration_minutes,
-         requiredText(stored.recurrence_rule), requiredText(stored.calendar_id), StorageFormat::intListJson(stored.reminders),
-         stored.sort_order, StorageFormat::dateTimeValue(stored.created_at),
-         StorageFormat::dateTimeValue(stored.updated_at)});
+        {requiredText(stored.id), requiredText(stored.name), requiredText(stored.title),
+         requiredText(stored.description), requiredText(stored.location), requiredText(stored.color),
+         StorageFormat::boolValue(stored.is_all_day), stored.duration_minutes, requiredText(stored.recurrence_rule),
+         requiredText(stored.calendar_id), StorageFormat::intListJson(stored.reminders), stored.sort_order,
+         StorageFormat::dateTimeValue(stored.created_at), StorageFormat::dateTimeValue(stored.updated_at)});
     if (!ok) {
         SqlSupport::logFailure("TemplateRepository::insert failed:", query.lastError());
         return std::nullopt;
@@ -112,10 +112,11 @@ bool TemplateRepository::update(const Template &preset)
         QStringLiteral("UPDATE event_templates SET name = ?, title = ?, description = ?, location = ?, color = ?, "
                        "is_all_day = ?, duration_minutes = ?, recurrence_rule = ?, calendar_id = ?, reminders = ?, "
                        "sort_order = ?, sync_status = 'pending', updated_at = ? WHERE id = ?"),
-        {requiredText(preset.name), requiredText(preset.title), requiredText(preset.description), requiredText(preset.location), requiredText(preset.color),
-         StorageFormat::boolValue(preset.is_all_day), preset.duration_minutes, requiredText(preset.recurrence_rule),
-         requiredText(preset.calendar_id), StorageFormat::intListJson(preset.reminders), preset.sort_order,
-         StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(preset.id)});
+        {requiredText(preset.name), requiredText(preset.title), requiredText(preset.description),
+         requiredText(preset.location), requiredText(preset.color), StorageFormat::boolValue(preset.is_all_day),
+         preset.duration_minutes, requiredText(preset.recurrence_rule), requiredText(preset.calendar_id),
+         StorageFormat::intListJson(preset.reminders), preset.sort_order, StorageFormat::dateTimeValue(Clock::nowUtc()),
+         requiredText(preset.id)});
     if (!ok) {
         SqlSupport::logFailure("TemplateRepository::update failed:", query.lastError());
         return false;

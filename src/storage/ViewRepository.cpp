@@ -66,7 +66,8 @@ QList<CalendarView> ViewRepository::getAllIncludingDeleted() const
 
 std::optional<CalendarView> ViewRepository::getById(const QString &id) const
 {
-    const QList<CalendarView> found = select(QStringLiteral("SELECT %1 FROM calendar_views WHERE id = ?"), {requiredText(id)});
+    const QList<CalendarView> found
+        = select(QStringLiteral("SELECT %1 FROM calendar_views WHERE id = ?"), {requiredText(id)});
     if (found.isEmpty())
         return std::nullopt;
     return found.constFirst();
@@ -101,8 +102,9 @@ bool ViewRepository::update(const CalendarView &view)
         QStringLiteral(
             "UPDATE calendar_views SET name = ?, color = ?, calendar_ids = ?, is_default = ?, sort_order = ?, "
             "sync_status = ?, updated_at = ? WHERE id = ?"),
-        {requiredText(view.name), requiredText(view.color), requiredText(view.calendar_ids), StorageFormat::boolValue(view.is_default),
-         view.sort_order, requiredText(view.sync_status), StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(view.id)});
+        {requiredText(view.name), requiredText(view.color), requiredText(view.calendar_ids),
+         StorageFormat::boolValue(view.is_default), view.sort_order, requiredText(view.sync_status),
+         StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(view.id)});
     if (!ok) {
         SqlSupport::logFailure("ViewRepository::update failed:", query.lastError());
         return false;

@@ -5,7 +5,6 @@ namespace Sync {
 
 ConflictResolutionService::ConflictResolutionService(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 } // namespace Sync

@@ -83,8 +83,7 @@ void rearmReminders(Event &event)
 EventEditor::EventEditor(AppState *appState, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
-{
-}
+{ }
 
 bool EventEditor::isPartOfSeries(const Event &occurrence)
 {
@@ -162,8 +161,8 @@ bool EventEditor::resize(const Event &occurrence, const QDateTime &newEnd, Scope
     return changeTimes(occurrence, occurrence.start_time, newEnd, scope, tr("Resized \"%1\"").arg(occurrence.title));
 }
 
-bool EventEditor::changeTimes(const Event &occurrence, const QDateTime &newStart, const std::optional<QDateTime> &newEnd,
-                              Scope scope, const QString &summary)
+bool EventEditor::changeTimes(const Event &occurrence, const QDateTime &newStart,
+                              const std::optional<QDateTime> &newEnd, Scope scope, const QString &summary)
 {
     Event edited = occurrence;
     edited.start_time = newStart;

@@ -20,8 +20,7 @@ public:
     GlyphIconEngine(char16_t glyph, const QColor &color)
         : m_glyph(glyph)
         , m_color(color)
-    {
-    }
+    { }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {

@@ -111,10 +111,12 @@ MainWindow::MainWindow(AppState *appState, QWidget *parent)
 
     connect(m_timeline, &TimelineView::eventActivated, this, &MainWindow::showEventPopover);
     connect(m_month, &MonthView::eventActivated, this, &MainWindow::showEventPopover);
-    connect(m_timeline, &TimelineView::createRequested, this,
-            [this](const QDateTime &start, const QDateTime &end, bool allDay) { openForm(nullptr, start, end, allDay); });
-    connect(m_month, &MonthView::createRequested, this,
-            [this](const QDateTime &start, const QDateTime &end, bool allDay) { openForm(nullptr, start, end, allDay); });
+    connect(
+        m_timeline, &TimelineView::createRequested, this,
+        [this](const QDateTime &start, const QDateTime &end, bool allDay) { openForm(nullptr, start, end, allDay); });
+    connect(
+        m_month, &MonthView::createRequested, this,
+        [this](const QDateTime &start, const QDateTime &end, bool allDay) { openForm(nullptr, start, end, allDay); });
     connect(m_timeline, &TimelineView::dayActivated, this, [this](const QDate &date) {
         m_appState->setViewMode(QStringLiteral("day"));
         m_appState->setViewDate(date);
@@ -190,7 +192,8 @@ void MainWindow::buildMenus()
     view->addSeparator();
     addViewAction(tr("&Back"), QKeySequence(Qt::ALT | Qt::Key_Left), [this] { m_appState->goBack(); });
     addViewAction(tr("&Forward"), QKeySequence(Qt::ALT | Qt::Key_Right), [this] { m_appState->goForward(); });
-    addViewAction(tr("Zoom &In"), QKeySequence::ZoomIn, [this] { m_appState->setHourHeight(m_appState->hourHeight() + 12); });
+    addViewAction(tr("Zoom &In"), QKeySequence::ZoomIn,
+                  [this] { m_appState->setHourHeight(m_appState->hourHeight() + 12); });
     addViewAction(tr("Zoom &Out"), QKeySequence::ZoomOut,
                   [this] { m_appState->setHourHeight(m_appState->hourHeight() - 12); });
     view->addSeparator();
@@ -204,12 +207,14 @@ void MainWindow::buildMenus()
     twentyFour->setChecked(m_appState->preferences()->value(prefKey("ui/timeFormat")).value_or(QStringLiteral("12"))
                            == QLatin1String("24"));
     connect(twentyFour, &QAction::toggled, this, [this](bool on) {
-        m_appState->preferences()->setValue(QStringLiteral("ui/timeFormat"), on ? QStringLiteral("24") : QStringLiteral("12"));
+        m_appState->preferences()->setValue(QStringLiteral("ui/timeFormat"),
+                                            on ? QStringLiteral("24") : QStringLiteral("12"));
     });
     QMenu *theme = view->addMenu(tr("T&heme"));
     auto *themes = new QActionGroup(theme);
-    const QList<std::pair<QString, QString>> modes = {
-        {QStringLiteral("light"), tr("Light")}, {QStringLiteral("dark"), tr("Dark")}, {QStringLiteral("system"), tr("System")}};
+    const QList<std::pair<QString, QString>> modes = {{QStringLiteral("light"), tr("Light")},
+                                                      {QStringLiteral("dark"), tr("Dark")},
+                                                      {QStringLiteral("system"), tr("System")}};
     for (const auto &[mode, label] : modes) {
         QAction *action = theme->addAction(label);
         action->setCheckable(true);
@@ -300,23 +305,26 @@ void MainWindow::applyTheme()
 {
     const ThemeManager::Colors &c = m_appState->theme()->colors();
     qApp->setPalette(m_appState->theme()->palette());
-    const QString sheet = QStringLiteral(
-        "#MainToolbar { background: %1; border-bottom: 1px solid %2; }"
-        "#RangeLabel { font-size: 17px; font-weight: 600; color: %3; padding-left: 4px; }"
-        "#TodayButton { border: 1px solid %2; border-radius: 6px; padding: 4px 12px; color: %3; background: %1; }"
-        "#TodayButton:hover { background: %4; }"
-        "#ModeFirst, #ModeMiddle, #ModeLast { border: 1px solid %2; padding: 4px 12px; color: %3; background: %1; }"
-        "#ModeFirst { border-top-left-radius: 6px; border-bottom-left-radius: 6px; }"
-        "#ModeLast { border-top-right-radius: 6px; border-bottom-right-radius: 6px; }"
-        "#ModeMiddle, #ModeLast { border-left: none; }"
-        "#ModeFirst:checked, #ModeMiddle:checked, #ModeLast:checked { background: %5; color: %6; border-color: %5; }"
-        "#QuickAdd { border: 1px solid %2; border-radius: 6px; padding: 5px 8px; background: %7; color: %3; }"
-        "#QuickAdd:focus { border-color: %5; }"
-        "QSplitter::handle { background: %2; }"
-        "QStatusBar { background: %1; border-top: 1px solid %2; color: %8; }"
-        "QMenuBar { background: %1; color: %3; }")
-                              .arg(c.surface.name(), c.border.name(), c.text.name(), c.surfaceAlt.name(),
-                                   c.accent.name(), c.accentText.name(), c.surfaceAlt.name(), c.textMuted.name());
+    const QString sheet
+        = QStringLiteral(
+              "#MainToolbar { background: %1; border-bottom: 1px solid %2; }"
+              "#RangeLabel { font-size: 17px; font-weight: 600; color: %3; padding-left: 4px; }"
+              "#TodayButton { border: 1px solid %2; border-radius: 6px; padding: 4px 12px; color: %3; background: %1; }"
+              "#TodayButton:hover { background: %4; }"
+              "#ModeFirst, #ModeMiddle, #ModeLast { border: 1px solid %2; padding: 4px 12px; color: %3; background: "
+              "%1; }"
+              "#ModeFirst { border-top-left-radius: 6px; border-bottom-left-radius: 6px; }"
+              "#ModeLast { border-top-right-radius: 6px; border-bottom-right-radius: 6px; }"
+              "#ModeMiddle, #ModeLast { border-left: none; }"
+              "#ModeFirst:checked, #ModeMiddle:checked, #ModeLast:checked { background: %5; color: %6; border-color: "
+              "%5; }"
+              "#QuickAdd { border: 1px solid %2; border-radius: 6px; padding: 5px 8px; background: %7; color: %3; }"
+              "#QuickAdd:focus { border-color: %5; }"
+              "QSplitter::handle { background: %2; }"
+              "QStatusBar { background: %1; border-top: 1px solid %2; color: %8; }"
+              "QMenuBar { background: %1; color: %3; }")
+              .arg(c.surface.name(), c.border.name(), c.text.name(), c.surfaceAlt.name(), c.accent.name(),
+                   c.accentText.name(), c.surfaceAlt.name(), c.textMuted.name());
     setStyleSheet(sheet);
     m_toolbar->applyTheme();
 }

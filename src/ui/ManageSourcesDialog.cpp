@@ -44,7 +44,10 @@ bool askNameAndColor(QWidget *parent, const QString &title, QString &name, QStri
     auto *nameEdit = new QLineEdit(name, &dialog);
     auto *colorButton = new QPushButton(&dialog);
     QString chosen = color;
-    const auto showColor = [&] { colorButton->setIcon(swatch(chosen)); colorButton->setText(chosen); };
+    const auto showColor = [&] {
+        colorButton->setIcon(swatch(chosen));
+        colorButton->setText(chosen);
+    };
     showColor();
     QObject::connect(colorButton, &QPushButton::clicked, &dialog, [&] {
         const QColor picked = QColorDialog::getColor(QColor(chosen), &dialog, QObject::tr("Calendar colour"));
@@ -119,7 +122,8 @@ void ManageSourcesDialog::reload()
         for (const Calendar &calendar : calendars) {
             if (calendar.account_id != account.id)
                 continue;
-            auto *item = new QTreeWidgetItem(accountItem, {calendar.name, calendar.is_default ? tr("Default") : QString()});
+            auto *item
+                = new QTreeWidgetItem(accountItem, {calendar.name, calendar.is_default ? tr("Default") : QString()});
             item->setIcon(0, swatch(calendar.color));
             item->setData(0, Qt::UserRole, calendar.id);
         }

@@ -11,8 +11,7 @@ TrayManager::TrayManager(AppState *appState, QWidget *mainWindow, QObject *paren
     : QObject(parent)
     , m_appState(appState)
     , m_mainWindow(mainWindow)
-{
-}
+{ }
 
 TrayManager::~TrayManager()
 {

@@ -16,7 +16,8 @@ UpdateDialog::UpdateDialog(const Artifact &artifact, const QString &displayName,
 {
     setWindowTitle(tr("Update available"));
     auto *layout = new QVBoxLayout(this);
-    auto *heading = new QLabel(tr("%1 %2 is available. You have %3.").arg(displayName, artifact.version, currentVersion), this);
+    auto *heading
+        = new QLabel(tr("%1 %2 is available. You have %3.").arg(displayName, artifact.version, currentVersion), this);
     heading->setWordWrap(true);
     layout->addWidget(heading);
     if (!artifact.notes.isEmpty()) {
