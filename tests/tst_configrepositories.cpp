@@ -901,47 +901,30 @@ void TestConfigRepositories::preferenceSignals()
 
 void TestConfigRepositories::failedWritesLogAndStayQuiet_data()
 {
-    QTest::addColumn<QString>("operation");
+    // The row name is the operation tried.
     QTest::addColumn<QString>("warning"); // empty: the failure is silent
-    QTest::newRow("account insert") << "account insert"
-                                    << "AccountRepository::insert failed:";
-    QTest::newRow("account update") << "account update"
-                                    << "AccountRepository::update failed:";
-    QTest::newRow("account remove") << "account remove"
-                                    << "AccountRepository::remove failed:";
-    QTest::newRow("account reap") << "account reap"
-                                  << "AccountRepository::reapTombstone failed:";
-    QTest::newRow("calendar insert") << "calendar insert"
-                                     << "CalendarRepository::insert failed:";
-    QTest::newRow("calendar update") << "calendar update"
-                                     << "CalendarRepository::update failed:";
-    QTest::newRow("view insert") << "view insert"
-                                 << "ViewRepository::insert failed:";
-    QTest::newRow("view update") << "view update"
-                                 << "ViewRepository::update failed:";
-    QTest::newRow("view remove") << "view remove"
-                                 << "";
-    QTest::newRow("view hard delete") << "view hard delete"
-                                      << "";
-    QTest::newRow("rule insert") << "rule insert"
-                                 << "FilterRuleRepository::insert failed:";
-    QTest::newRow("rule update") << "rule update"
-                                 << "FilterRuleRepository::update failed:";
-    QTest::newRow("rule enable") << "rule enable"
-                                 << "";
-    QTest::newRow("rule remove") << "rule remove"
-                                 << "";
-    QTest::newRow("template insert") << "template insert"
-                                     << "TemplateRepository::insert failed:";
-    QTest::newRow("template update") << "template update"
-                                     << "TemplateRepository::update failed:";
-    QTest::newRow("template remove") << "template remove"
-                                     << "";
+    QTest::newRow("account insert") << QStringLiteral("AccountRepository::insert failed:");
+    QTest::newRow("account update") << QStringLiteral("AccountRepository::update failed:");
+    QTest::newRow("account remove") << QStringLiteral("AccountRepository::remove failed:");
+    QTest::newRow("account reap") << QStringLiteral("AccountRepository::reapTombstone failed:");
+    QTest::newRow("calendar insert") << QStringLiteral("CalendarRepository::insert failed:");
+    QTest::newRow("calendar update") << QStringLiteral("CalendarRepository::update failed:");
+    QTest::newRow("view insert") << QStringLiteral("ViewRepository::insert failed:");
+    QTest::newRow("view update") << QStringLiteral("ViewRepository::update failed:");
+    QTest::newRow("view remove") << QString();
+    QTest::newRow("view hard delete") << QString();
+    QTest::newRow("rule insert") << QStringLiteral("FilterRuleRepository::insert failed:");
+    QTest::newRow("rule update") << QStringLiteral("FilterRuleRepository::update failed:");
+    QTest::newRow("rule enable") << QString();
+    QTest::newRow("rule remove") << QString();
+    QTest::newRow("template insert") << QStringLiteral("TemplateRepository::insert failed:");
+    QTest::newRow("template update") << QStringLiteral("TemplateRepository::update failed:");
+    QTest::newRow("template remove") << QString();
 }
 
 void TestConfigRepositories::failedWritesLogAndStayQuiet()
 {
-    QFETCH(QString, operation);
+    const QLatin1String operation(QTest::currentDataTag());
     QFETCH(QString, warning);
     AccountRepository accounts(m_database.get());
     CalendarRepository calendars(m_database.get());

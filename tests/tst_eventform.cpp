@@ -44,51 +44,6 @@ QDateTime at(int day, int hour, int minute = 0)
     return QDateTime(QDate(2024, 1, day), QTime(hour, minute), kBerlin);
 }
 
-// The names of the fields in which two events differ.
-QStringList fieldDiff(const Event &a, const Event &b)
-{
-    QStringList diff;
-    const auto check = [&diff](bool same, const char *name) {
-        if (!same)
-            diff.append(QLatin1String(name));
-    };
-    check(a.id == b.id, "id");
-    check(a.calendar_id == b.calendar_id, "calendar_id");
-    check(a.uid == b.uid, "uid");
-    check(a.provider_event_id == b.provider_event_id, "provider_event_id");
-    check(a.etag == b.etag, "etag");
-    check(a.href == b.href, "href");
-    check(a.title == b.title, "title");
-    check(a.description == b.description, "description");
-    check(a.location == b.location, "location");
-    check(a.geo_location == b.geo_location, "geo_location");
-    check(a.start_time == b.start_time, "start_time");
-    check(a.end_time == b.end_time, "end_time");
-    check(a.is_all_day == b.is_all_day, "is_all_day");
-    check(a.timezone == b.timezone, "timezone");
-    check(a.recurrence_rule == b.recurrence_rule, "recurrence_rule");
-    check(a.recurrence_dates == b.recurrence_dates, "recurrence_dates");
-    check(a.exception_dates == b.exception_dates, "exception_dates");
-    check(a.recurrence_id == b.recurrence_id, "recurrence_id");
-    check(a.master_event_uid == b.master_event_uid, "master_event_uid");
-    check(a.status == b.status, "status");
-    check(a.event_url == b.event_url, "event_url");
-    check(a.conference_url == b.conference_url, "conference_url");
-    check(a.organizer_email == b.organizer_email, "organizer_email");
-    check(a.organizer_name == b.organizer_name, "organizer_name");
-    check(a.sequence == b.sequence, "sequence");
-    check(a.raw_icalendar == b.raw_icalendar, "raw_icalendar");
-    check(a.color == b.color, "color");
-    check(a.created == b.created, "created");
-    check(a.last_modified == b.last_modified, "last_modified");
-    check(a.sync_status == b.sync_status, "sync_status");
-    check(a.deleted_at == b.deleted_at, "deleted_at");
-    check(a.related_to_uid == b.related_to_uid, "related_to_uid");
-    check(a.reminders == b.reminders, "reminders");
-    check(a.attendees == b.attendees, "attendees");
-    return diff;
-}
-
 // The fields a save is expected to change whatever was edited.
 Event withoutSaveMarks(Event event)
 {
@@ -453,9 +408,9 @@ void TestEventForm::roundTrip()
         // Opened and saved without a change: the form describes the event exactly and writes nothing.
         EventFormDialog form(m_state.get(), m_editor.get());
         form.setEvent(opened);
-        QCOMPARE(fieldDiff(form.editedEvent(), opened).join(QLatin1String(", ")), QString());
+        QCOMPARE(form.editedEvent(), opened);
         QVERIFY(form.save());
-        QCOMPARE(fieldDiff(m_state->events()->getById(stored.id).value(), stored).join(QLatin1String(", ")), QString());
+        QCOMPARE(m_state->events()->getById(stored.id).value(), stored);
     }
 
     // A new title only: everything else stays as it was.
@@ -476,7 +431,7 @@ void TestEventForm::roundTrip()
     QVERIFY(after.raw_icalendar.contains(QByteArray("SUMMARY:" + after.title.toUtf8())));
     Event expected = stored;
     expected.title = stored.title + QStringLiteral(" (moved)");
-    QCOMPARE(fieldDiff(withoutSaveMarks(after), withoutSaveMarks(expected)).join(QLatin1String(", ")), QString());
+    QCOMPARE(withoutSaveMarks(after), withoutSaveMarks(expected));
 }
 
 void TestEventForm::repeatPresetToRule_data()
@@ -941,7 +896,7 @@ void TestEventForm::readOnlyCalendarOpensReadOnly()
     QVERIFY(field<QLabel>(form, "readOnlyBanner")->isVisible());
     QCOMPARE(field<QComboBox>(form, "calendar")->currentText(), QStringLiteral("Holidays"));
     QVERIFY(!form.save());
-    QCOMPARE(fieldDiff(m_state->events()->getById(stored.id).value(), stored).join(QLatin1String(", ")), QString());
+    QCOMPARE(m_state->events()->getById(stored.id).value(), stored);
 }
 
 void TestEventForm::keyboard()

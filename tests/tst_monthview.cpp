@@ -183,17 +183,12 @@ void TestMonthView::gridFor_data()
     QTest::addColumn<int>("firstDayOfWeek");
     QTest::addColumn<QDate>("first");
 
-    // Months starting on each weekday, Monday first.
+    // Monday first: a month starting on the first, a middle and the last day of the week.
     QTest::newRow("starts Monday") << QDate(2024, 1, 17) << int(Qt::Monday) << QDate(2024, 1, 1);
-    QTest::newRow("starts Tuesday") << QDate(2024, 10, 31) << int(Qt::Monday) << QDate(2024, 9, 30);
-    QTest::newRow("starts Wednesday") << QDate(2024, 5, 1) << int(Qt::Monday) << QDate(2024, 4, 29);
-    QTest::newRow("starts Thursday") << QDate(2024, 2, 10) << int(Qt::Monday) << QDate(2024, 1, 29);
     QTest::newRow("starts Friday") << QDate(2024, 3, 31) << int(Qt::Monday) << QDate(2024, 2, 26);
-    QTest::newRow("starts Saturday") << QDate(2024, 6, 30) << int(Qt::Monday) << QDate(2024, 5, 27);
     QTest::newRow("starts Sunday") << QDate(2024, 9, 1) << int(Qt::Monday) << QDate(2024, 8, 26);
     // Sunday first.
     QTest::newRow("Sunday first, starts Sunday") << QDate(2024, 9, 20) << int(Qt::Sunday) << QDate(2024, 9, 1);
-    QTest::newRow("Sunday first, starts Monday") << QDate(2024, 4, 2) << int(Qt::Sunday) << QDate(2024, 3, 31);
     QTest::newRow("Sunday first, starts Saturday") << QDate(2024, 6, 1) << int(Qt::Sunday) << QDate(2024, 5, 26);
     QTest::newRow("Saturday first") << QDate(2024, 3, 5) << int(Qt::Saturday) << QDate(2024, 2, 24);
     // February of a leap year, and a February that fills exactly four weeks.

@@ -69,8 +69,6 @@ private slots:
     void eventFromLine();
     void eventFromLineTitleFallback_data();
     void eventFromLineTitleFallback();
-    void eventFromLineRefuses_data();
-    void eventFromLineRefuses();
     void eventFromLineInLocalTime();
 
     void kbcalDryRunJson_data();
@@ -370,10 +368,6 @@ void TestNLParser::parse_data()
 
     QTest::newRow("standup at 14:10") << "Standup" << kFriday << "Standup" << utc(2024, 3, 15, 14, 30)
                                       << utc(2024, 3, 15, 15, 30) << false << false;
-    QTest::newRow("standup at 14:40") << "Standup" << utc(2024, 3, 15, 14, 40) << "Standup" << utc(2024, 3, 15, 15, 0)
-                                      << utc(2024, 3, 15, 16, 0) << false << false;
-    QTest::newRow("standup at 14:30:45") << "Standup" << utc(2024, 3, 15, 14, 30, 45) << "Standup"
-                                         << utc(2024, 3, 15, 14, 30) << utc(2024, 3, 15, 15, 30) << false << false;
     QTest::newRow("default start on the next day")
         << "Late call" << utc(2024, 3, 15, 23, 50) << "Late call" << utc(2024, 3, 16, 0, 0) << utc(2024, 3, 16, 1, 0)
         << false << false;
@@ -381,26 +375,16 @@ void TestNLParser::parse_data()
                                      << true << false;
     QTest::newRow("gym next monday") << "Gym next monday at 6am for 1.5 hours" << kFriday << "Gym"
                                      << utc(2024, 3, 18, 6, 0) << utc(2024, 3, 18, 7, 30) << false << true;
-    QTest::newRow("gym next monday on a monday") << "Gym next monday at 6am for 1.5 hours" << kMonday << "Gym"
-                                                 << utc(2024, 3, 25, 6, 0) << utc(2024, 3, 25, 7, 30) << false << true;
     QTest::newRow("call mom friday on a friday")
         << "Call mom friday" << kFriday << "Call mom" << utc(2024, 3, 15) << utc(2024, 3, 16) << true << false;
-    QTest::newRow("next friday on a friday")
-        << "next friday" << kFriday << "" << utc(2024, 3, 22) << utc(2024, 3, 23) << true << false;
-    QTest::newRow("dentist dec 3 in late december") << "Dentist dec 3" << utc(2024, 12, 28, 10, 0) << "Dentist"
-                                                    << utc(2025, 12, 3) << utc(2025, 12, 4) << true << false;
     QTest::newRow("party jan 40") << "Party jan 40" << kFriday << "Party" << QDateTime() << QDateTime() << true
                                   << false;
-    QTest::newRow("from 9 to 11am") << "from 9 to 11am" << kFriday << "" << utc(2024, 3, 15, 9, 0)
-                                    << utc(2024, 3, 15, 11, 0) << false << true;
     QTest::newRow("from 11pm to 1 ends at 13:00 the next day")
         << "from 11pm to 1" << kFriday << "" << utc(2024, 3, 15, 23, 0) << utc(2024, 3, 16, 13, 0) << false << true;
     QTest::newRow("from 10pm to 1am") << "Shift from 10pm to 1am" << kFriday << "Shift" << utc(2024, 3, 15, 22, 0)
                                       << utc(2024, 3, 16, 1, 0) << false << true;
     QTest::newRow("empty range moves a day")
         << "from 9 to 9" << kFriday << "" << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 16, 9, 0) << false << true;
-    QTest::newRow("meet at 1530") << "Meet at 1530" << kFriday << "Meet" << utc(2024, 3, 15, 15, 30)
-                                  << utc(2024, 3, 15, 16, 30) << false << true;
     QTest::newRow("meet at 2460") << "Meet at 2460" << kFriday << "Meet at 2460" << utc(2024, 3, 15, 14, 30)
                                   << utc(2024, 3, 15, 15, 30) << false << false;
     QTest::newRow("flight at 7") << "Flight at 7" << kFriday << "Flight" << utc(2024, 3, 15, 7, 0)
@@ -708,21 +692,6 @@ void TestNLParser::eventFromLineTitleFallback()
     QCOMPARE(event->raw_icalendar.count('\n'), 10);
 }
 
-void TestNLParser::eventFromLineRefuses_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::newRow("empty") << "";
-    QTest::newRow("blanks") << " \t ";
-    QTest::newRow("impossible date") << "Party jan 40";
-    QTest::newRow("impossible time") << "Meet at 24";
-}
-
-void TestNLParser::eventFromLineRefuses()
-{
-    QFETCH(QString, line);
-    QVERIFY(!NLParser::eventFromLine(line, QStringLiteral("cal"), kFriday));
-}
-
 void TestNLParser::eventFromLineInLocalTime()
 {
     // The desktop program passes the local time (the tests run in Europe/Berlin, UTC+1 in March).
@@ -868,7 +837,8 @@ void TestNLParser::kbcalStoresTheEvent()
     QCOMPARE(event.value(QStringLiteral("calendar_id")).toString(), QStringLiteral("kettlebrook-personal-default"));
     QCOMPARE(event.value(QStringLiteral("sync_status")).toString(), QStringLiteral("pending"));
     QCOMPARE(event.value(QStringLiteral("id")).toString(), event.value(QStringLiteral("uid")).toString());
-    QVERIFY(event.value(QStringLiteral("raw_icalendar")).toString().contains(QStringLiteral("SUMMARY:Lunch with Sam\r\n")));
+    QVERIFY(
+        event.value(QStringLiteral("raw_icalendar")).toString().contains(QStringLiteral("SUMMARY:Lunch with Sam\r\n")));
 
     // It is stored: the agenda of that day lists it.
     const Result agenda = runKbcal({"--data-dir", dataDir, "agenda", "--from", "2024-03-16", "--days", "1", "--json"});

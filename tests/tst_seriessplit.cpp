@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "StoreFixture.h"
+
 #include "ical/Recurrence.h"
 #include "storage/Clock.h"
-#include "storage/Database.h"
 #include "storage/EventRepository.h"
 
 #include <QLoggingCategory>
 #include <QRegularExpression>
-#include <QSqlQuery>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimeZone>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -32,11 +28,9 @@ private slots:
 
 private:
     Event storedMaster(const QString &rule);
-    int eventCount();
-    bool exec(const QString &sql);
+    int eventCount() const { return m_store.scalar(u"SELECT COUNT(*) FROM events"_s).toInt(); }
 
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Database> m_database;
+    StoreFixture m_store;
     std::unique_ptr<EventRepository> m_repository;
     const QDateTime m_now = QDateTime(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
 };
@@ -65,38 +59,16 @@ void TestSeriesSplit::initTestCase()
 void TestSeriesSplit::init()
 {
     Clock::setFixedNow(m_now);
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-    m_database = std::make_unique<Database>();
-    QVERIFY(m_database->open(m_dir->filePath(u"calendar.db"_s)));
-    m_database->migrate();
-    QVERIFY(m_database->isUpToDate());
-    QVERIFY(exec(u"INSERT INTO accounts (id, name, type) VALUES ('acc', 'Local', 'kettlebrook')"_s));
-    QVERIFY(exec(
-        u"INSERT INTO calendars (id, account_id, url, name) VALUES ('cal', 'acc', 'local://calendar/cal', 'Home')"_s));
-    m_repository = std::make_unique<EventRepository>(m_database.get());
+    QVERIFY(m_store.open());
+    QVERIFY(m_store.addCalendar(u"cal"_s, u"Home"_s));
+    m_repository = std::make_unique<EventRepository>(m_store.database());
 }
 
 void TestSeriesSplit::cleanup()
 {
     m_repository.reset();
-    m_database.reset();
-    m_dir.reset();
+    m_store.close();
     Clock::setFixedNow(QDateTime());
-}
-
-bool TestSeriesSplit::exec(const QString &sql)
-{
-    QSqlQuery query(m_database->connection());
-    return query.exec(sql);
-}
-
-int TestSeriesSplit::eventCount()
-{
-    QSqlQuery query(m_database->connection());
-    if (!query.exec(u"SELECT COUNT(*) FROM events"_s) || !query.next())
-        return -1;
-    return query.value(0).toInt();
 }
 
 Event TestSeriesSplit::storedMaster(const QString &rule)
@@ -223,7 +195,8 @@ void TestSeriesSplit::newSeriesWithoutEnd()
 void TestSeriesSplit::failedMasterUpdateWritesNothing()
 {
     const Event master = storedMaster(u"FREQ=WEEKLY;COUNT=10"_s);
-    QVERIFY(exec(u"CREATE TRIGGER refuse_update BEFORE UPDATE ON events BEGIN SELECT RAISE(ABORT, 'refused'); END"_s));
+    QVERIFY(m_store.exec(
+        u"CREATE TRIGGER refuse_update BEFORE UPDATE ON events BEGIN SELECT RAISE(ABORT, 'refused'); END"_s));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"EventRepository::update failed:"_s));
     const std::optional<Event> created = Recurrence::splitSeries(*m_repository, master, inBerlin(2024, 2, 5, 9),
                                                                  inBerlin(2024, 2, 5, 9), std::nullopt);
@@ -235,7 +208,8 @@ void TestSeriesSplit::failedMasterUpdateWritesNothing()
 void TestSeriesSplit::failedInsertLeavesMasterEnded()
 {
     const Event master = storedMaster(u"FREQ=WEEKLY;COUNT=10"_s);
-    QVERIFY(exec(u"CREATE TRIGGER refuse_insert BEFORE INSERT ON events BEGIN SELECT RAISE(ABORT, 'refused'); END"_s));
+    QVERIFY(m_store.exec(
+        u"CREATE TRIGGER refuse_insert BEFORE INSERT ON events BEGIN SELECT RAISE(ABORT, 'refused'); END"_s));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"EventRepository::insert failed:"_s));
     const std::optional<Event> created = Recurrence::splitSeries(*m_repository, master, inBerlin(2024, 2, 5, 9),
                                                                  inBerlin(2024, 2, 5, 9), std::nullopt);

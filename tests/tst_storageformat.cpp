@@ -156,7 +156,6 @@ void TestStorageFormat::stringLists_data()
     QTest::addColumn<QString>("json");
     QTest::newRow("two") << QStringList{"a", "b"} << R"(["a","b"])";
     QTest::newRow("empty") << QStringList{} << "[]";
-    QTest::newRow("components") << QStringList{"VEVENT", "VTODO"} << R"(["VEVENT","VTODO"])";
     QTest::newRow("quotes and unicode") << QStringList{"say \"hi\"", "Café"} << R"(["say \"hi\"","Café"])";
 }
 
