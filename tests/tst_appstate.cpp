@@ -81,11 +81,21 @@ void TestAppState::storedValuesAreClamped_data()
     QTest::addColumn<int>("expectedHeight");
     QTest::addColumn<int>("expectedHorizon");
     QTest::addColumn<QString>("expectedMode");
-    QTest::newRow("too small") << "30" << "1" << "day" << 56 << 2 << "day";
-    QTest::newRow("too large") << "500" << "30" << "month" << 200 << 21 << "month";
-    QTest::newRow("in range") << "80" << "14" << "week" << 80 << 14 << "week";
-    QTest::newRow("not numbers") << "tall" << "" << "agenda" << 56 << 7 << "week";
-    QTest::newRow("list mode") << "56" << "7" << "list" << 56 << 7 << "week";
+    QTest::newRow("too small") << "30"
+                               << "1"
+                               << "day" << 56 << 2 << "day";
+    QTest::newRow("too large") << "500"
+                               << "30"
+                               << "month" << 200 << 21 << "month";
+    QTest::newRow("in range") << "80"
+                              << "14"
+                              << "week" << 80 << 14 << "week";
+    QTest::newRow("not numbers") << "tall"
+                                 << ""
+                                 << "agenda" << 56 << 7 << "week";
+    QTest::newRow("list mode") << "56"
+                               << "7"
+                               << "list" << 56 << 7 << "week";
 }
 
 void TestAppState::storedValuesAreClamped()
@@ -93,8 +103,11 @@ void TestAppState::storedValuesAreClamped()
     QFETCH(QString, hourHeight);
     QFETCH(QString, horizon);
     QFETCH(QString, mode);
-    storePreferences(m_path, {{"ui/timelineHourHeight", hourHeight}, {"ui/weekHorizon", horizon}, {"ui/viewMode", mode},
-                              {"ui/viewDate", "2020-02-02"}});
+    storePreferences(m_path,
+                     {{"ui/timelineHourHeight", hourHeight},
+                      {"ui/weekHorizon", horizon},
+                      {"ui/viewMode", mode},
+                      {"ui/viewDate", "2020-02-02"}});
     AppState state;
     QSignalSpy ready(&state, &AppState::databaseReady);
     QVERIFY(state.initialize(m_path));

@@ -83,8 +83,8 @@ QStringList actualSchema(const QSqlDatabase &db)
         QSqlQuery fk(db);
         fk.exec(QStringLiteral("PRAGMA foreign_key_list(%1)").arg(table));
         while (fk.next())
-            references[fk.value(3).toString()] = fk.value(2).toString() + QLatin1Char('(') + fk.value(4).toString()
-                + QLatin1Char(')');
+            references[fk.value(3).toString()]
+                = fk.value(2).toString() + QLatin1Char('(') + fk.value(4).toString() + QLatin1Char(')');
         QSqlQuery info(db);
         info.exec(QStringLiteral("PRAGMA table_info(%1)").arg(table));
         while (info.next()) {
@@ -100,7 +100,8 @@ QStringList actualSchema(const QSqlDatabase &db)
         }
     }
     static const QRegularExpression indexSql(
-        QStringLiteral("^CREATE (UNIQUE )?INDEX (?:IF NOT EXISTS )?(\\w+) ON (\\w+)\\s*(\\(.*\\))(?:\\s+WHERE\\s+(.*))?$"),
+        QStringLiteral(
+            "^CREATE (UNIQUE )?INDEX (?:IF NOT EXISTS )?(\\w+) ON (\\w+)\\s*(\\(.*\\))(?:\\s+WHERE\\s+(.*))?$"),
         QRegularExpression::DotMatchesEverythingOption);
     QSqlQuery indexes(db);
     indexes.exec(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'index' AND sql IS NOT NULL"));
@@ -147,14 +148,14 @@ void TestDatabase::splitStatements_data()
 
     QTest::newRow("two statements") << "CREATE TABLE a (x);\nCREATE TABLE b (y);\n"
                                     << QStringList{"CREATE TABLE a (x)", "CREATE TABLE b (y)"};
-    QTest::newRow("statement over lines")
-        << "CREATE TABLE a (\n    x TEXT,\n    y TEXT\n);\n" << QStringList{"CREATE TABLE a (\n    x TEXT,\n    y TEXT\n)"};
-    QTest::newRow("whole-line comments dropped")
-        << "-- first\n  -- indented comment\nSELECT 1;\n" << QStringList{"SELECT 1"};
-    QTest::newRow("comment mentioning BEGIN does not open a block")
-        << "-- BEGIN here\nSELECT 1;\nSELECT 2;\n" << QStringList{"SELECT 1", "SELECT 2"};
-    QTest::newRow("comment at end of code line stays")
-        << "SELECT 1; -- trailing\nSELECT 2;\n" << QStringList{"SELECT 1; -- trailing\nSELECT 2"};
+    QTest::newRow("statement over lines") << "CREATE TABLE a (\n    x TEXT,\n    y TEXT\n);\n"
+                                          << QStringList{"CREATE TABLE a (\n    x TEXT,\n    y TEXT\n)"};
+    QTest::newRow("whole-line comments dropped") << "-- first\n  -- indented comment\nSELECT 1;\n"
+                                                 << QStringList{"SELECT 1"};
+    QTest::newRow("comment mentioning BEGIN does not open a block") << "-- BEGIN here\nSELECT 1;\nSELECT 2;\n"
+                                                                    << QStringList{"SELECT 1", "SELECT 2"};
+    QTest::newRow("comment at end of code line stays") << "SELECT 1; -- trailing\nSELECT 2;\n"
+                                                       << QStringList{"SELECT 1; -- trailing\nSELECT 2"};
     QTest::newRow("trigger body kept whole")
         << "CREATE TRIGGER t AFTER INSERT ON a BEGIN\n  UPDATE b SET y = 1;\n  UPDATE b SET y = 2;\nEND;\nSELECT 3;\n"
         << QStringList{"CREATE TRIGGER t AFTER INSERT ON a BEGIN\n  UPDATE b SET y = 1;\n  UPDATE b SET y = 2;\nEND",
@@ -203,9 +204,10 @@ void TestDatabase::freshDatabaseHasFinalSchema()
         rows.append(versions.value(0).toString() + QLatin1Char(' ') + versions.value(1).toString());
         QVERIFY(!versions.value(2).toString().isEmpty());
     }
-    QCOMPARE(rows, (QStringList{"1 initial", "2 event_sync", "3 tasks_sync", "4 accounts_sort_order",
-                                "5 provider_event_idx", "6 events_uid_unique", "7 tasks_dateonly_repeat",
-                                "8 accounts_soft_delete", "9 event_related_to"}));
+    QCOMPARE(rows,
+             (QStringList{"1 initial", "2 event_sync", "3 tasks_sync", "4 accounts_sort_order", "5 provider_event_idx",
+                          "6 events_uid_unique", "7 tasks_dateonly_repeat", "8 accounts_soft_delete",
+                          "9 event_related_to"}));
 
     QSqlQuery view(db);
     QVERIFY(view.exec(QStringLiteral("SELECT id, name, calendar_ids, is_default, sync_status FROM calendar_views")));
@@ -296,9 +298,14 @@ void TestDatabase::upgradeFromVersion5DeduplicatesEvents()
             QVERIFY(exec(db, QString::fromLatin1(sql)));
         for (const char *id : {"m-1", "m-2", "m-3", "t-a", "t-b"}) {
             const QString e = QString::fromLatin1(id);
-            QVERIFY(exec(db, QStringLiteral("INSERT INTO attendees (id, event_id, email) VALUES ('at-%1', '%1', 'x')").arg(e)));
-            QVERIFY(exec(db, QStringLiteral("INSERT INTO attachments (id, event_id, filename) VALUES ('af-%1', '%1', 'f')").arg(e)));
-            QVERIFY(exec(db, QStringLiteral("INSERT INTO reminders (id, event_id, minutes_before) VALUES ('r-%1', '%1', 5)").arg(e)));
+            QVERIFY(exec(
+                db, QStringLiteral("INSERT INTO attendees (id, event_id, email) VALUES ('at-%1', '%1', 'x')").arg(e)));
+            QVERIFY(exec(
+                db,
+                QStringLiteral("INSERT INTO attachments (id, event_id, filename) VALUES ('af-%1', '%1', 'f')").arg(e)));
+            QVERIFY(exec(db,
+                         QStringLiteral("INSERT INTO reminders (id, event_id, minutes_before) VALUES ('r-%1', '%1', 5)")
+                             .arg(e)));
         }
     }
 
@@ -318,7 +325,8 @@ void TestDatabase::upgradeFromVersion5DeduplicatesEvents()
     while (ids.next())
         kept.append(ids.value(0).toString());
     QCOMPARE(kept, (QStringList{"m-2", "o-1", "t-a", "x-1"}));
-    for (const QString &table : {QStringLiteral("attendees"), QStringLiteral("attachments"), QStringLiteral("reminders")}) {
+    for (const QString &table :
+         {QStringLiteral("attendees"), QStringLiteral("attachments"), QStringLiteral("reminders")}) {
         QSqlQuery children(db);
         QVERIFY(children.exec(QStringLiteral("SELECT event_id FROM %1 ORDER BY event_id").arg(table)));
         QStringList owners;
@@ -328,8 +336,9 @@ void TestDatabase::upgradeFromVersion5DeduplicatesEvents()
     }
 
     // The unique key now rejects a second master whatever form its recurrence id takes.
-    QVERIFY(!exec(db, "INSERT INTO events (id, calendar_id, uid, title, start_time, raw_icalendar, recurrence_id)"
-                      " VALUES ('dup', 'c', 'U1', 'again', '2024-01-01T09:00:00Z', '', '')"));
+    QVERIFY(!exec(db,
+                  "INSERT INTO events (id, calendar_id, uid, title, start_time, raw_icalendar, recurrence_id)"
+                  " VALUES ('dup', 'c', 'U1', 'again', '2024-01-01T09:00:00Z', '', '')"));
     QVERIFY(columnNames(db, QStringLiteral("events")).contains(QStringLiteral("related_to_uid")));
 }
 

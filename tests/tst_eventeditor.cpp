@@ -239,7 +239,8 @@ void TestEventEditor::moveThisAndFollowingSplitsTheSeries()
     QCOMPARE(after.at(3).start_time, at(11, 11));
     QCOMPARE(after.at(6).start_time, at(14, 11));
     QVERIFY(after.at(3).id != master.id);
-    QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule, QStringLiteral("FREQ=DAILY;UNTIL=20240111T075959Z"));
+    QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule,
+             QStringLiteral("FREQ=DAILY;UNTIL=20240111T075959Z"));
 
     m_state->undoStack()->undo();
     const QList<Event> undone = week();
@@ -376,9 +377,10 @@ void TestEventEditor::textPatching_data()
                                              << "New" << head + "LOCATION:New\r\n" + tail;
     QTest::newRow("remove when empty") << head + "DESCRIPTION:x\r\n" + tail << QByteArray("DESCRIPTION") << ""
                                        << head + tail;
-    QTest::newRow("alarm text kept")
-        << head + "BEGIN:VALARM\r\nDESCRIPTION:Reminder\r\nEND:VALARM\r\n" + tail << QByteArray("DESCRIPTION")
-        << "Agenda" << head + "BEGIN:VALARM\r\nDESCRIPTION:Reminder\r\nEND:VALARM\r\nDESCRIPTION:Agenda\r\n" + tail;
+    QTest::newRow("alarm text kept") << head + "BEGIN:VALARM\r\nDESCRIPTION:Reminder\r\nEND:VALARM\r\n" + tail
+                                     << QByteArray("DESCRIPTION") << "Agenda"
+                                     << head
+            + "BEGIN:VALARM\r\nDESCRIPTION:Reminder\r\nEND:VALARM\r\nDESCRIPTION:Agenda\r\n" + tail;
     QTest::newRow("only the first event")
         << head + tail.left(12) + "BEGIN:VEVENT\r\nSUMMARY:Other\r\n" + tail << QByteArray("SUMMARY") << "First"
         << head + "SUMMARY:First\r\n" + tail.left(12) + "BEGIN:VEVENT\r\nSUMMARY:Other\r\n" + tail;

@@ -47,9 +47,8 @@ void TestEventLayout::timed_data()
         << QList<TimedItem>{{540, 570}, {540, 660}} << 0 << QStringList{"1/2/1", "0/2/1"};
     QTest::newRow("chain makes one cluster, third reuses the first column")
         << QList<TimedItem>{{540, 600}, {570, 660}, {620, 700}} << 0 << QStringList{"0/2/1", "1/2/1", "0/2/1"};
-    QTest::newRow("item spreads over free columns")
-        << QList<TimedItem>{{540, 720}, {540, 600}, {540, 600}, {660, 700}}
-        << 0 << QStringList{"0/3/1", "1/3/1", "2/3/1", "1/3/2"};
+    QTest::newRow("item spreads over free columns") << QList<TimedItem>{{540, 720}, {540, 600}, {540, 600}, {660, 700}}
+                                                    << 0 << QStringList{"0/3/1", "1/3/1", "2/3/1", "1/3/2"};
     QTest::newRow("separate clusters keep their own columns")
         << QList<TimedItem>{{540, 600}, {550, 610}, {800, 860}} << 0 << QStringList{"0/2/1", "1/2/1", "0/1/1"};
     QTest::newRow("minimum height makes short items overlap")

@@ -4,9 +4,9 @@
 #include "storage/Clock.h"
 #include "storage/EventRepository.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTimeZone>
 
@@ -737,4 +737,3 @@ void TestEventRepository::repositoryOutlivesTheDatabase()
 
 QTEST_GUILESS_MAIN(TestEventRepository)
 #include "tst_eventrepository.moc"
-

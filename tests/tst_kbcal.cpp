@@ -40,11 +40,14 @@ void TestKbcal::usage_data()
     QTest::addColumn<QString>("outContains");
     QTest::addColumn<QString>("errStartsWith");
 
-    QTest::newRow("help") << QStringList{"--help"} << 0 << "init" << "";
+    QTest::newRow("help") << QStringList{"--help"} << 0 << "init"
+                          << "";
     QTest::newRow("command help") << QStringList{"init", "--help"} << 0 << "Usage: kbcal [--data-dir DIR] init"
                                   << "";
-    QTest::newRow("no command") << QStringList{} << 2 << "" << "kbcal: missing command";
-    QTest::newRow("unknown command") << QStringList{"frobnicate"} << 2 << "" << "kbcal: unknown command 'frobnicate'";
+    QTest::newRow("no command") << QStringList{} << 2 << ""
+                                << "kbcal: missing command";
+    QTest::newRow("unknown command") << QStringList{"frobnicate"} << 2 << ""
+                                     << "kbcal: unknown command 'frobnicate'";
     QTest::newRow("unknown global option") << QStringList{"--colour", "init"} << 2 << ""
                                            << "kbcal: unknown option '--colour'";
     QTest::newRow("unknown command option") << QStringList{"init", "--frob"} << 2 << ""
@@ -95,8 +98,7 @@ void TestKbcal::initIsIdempotent()
     QCOMPARE(runKbcal({"init", "--data-dir", dir.path()}).status, 0);
     const Result again = runKbcal({"init", "--data-dir=" + dir.path()});
     QCOMPARE(again.status, 0);
-    QCOMPARE(again.out.trimmed(),
-             QStringLiteral("Database ready: %1/calendar.db (schema version 9)").arg(dir.path()));
+    QCOMPARE(again.out.trimmed(), QStringLiteral("Database ready: %1/calendar.db (schema version 9)").arg(dir.path()));
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("check"));
         db.setDatabaseName(dir.filePath(QStringLiteral("calendar.db")));
@@ -145,8 +147,9 @@ void TestKbcal::fileThatIsNotADatabase()
     QCOMPARE(result.status, 1);
     QVERIFY(result.out.isEmpty());
     QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
-    QVERIFY2(result.err.startsWith(QStringLiteral("kbcal: cannot prepare the calendar database in %1: ").arg(dir.path())),
-             qPrintable(result.err));
+    QVERIFY2(
+        result.err.startsWith(QStringLiteral("kbcal: cannot prepare the calendar database in %1: ").arg(dir.path())),
+        qPrintable(result.err));
     QFile file(dir.filePath(QStringLiteral("calendar.db")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), content);

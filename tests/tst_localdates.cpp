@@ -22,14 +22,14 @@ void TestLocalDates::edges_data()
     QTest::addColumn<QDate>("date");
     const QTimeZone berlin("Europe/Berlin");
     QTest::newRow("local midnight") << QDateTime(QDate(2024, 1, 10), QTime(0, 0), berlin) << QDate(2024, 1, 10);
-    QTest::newRow("a millisecond before") << QDateTime(QDate(2024, 1, 9), QTime(23, 59, 59, 999), berlin)
-                                          << QDate(2024, 1, 9);
-    QTest::newRow("utc evening is local tomorrow") << QDateTime(QDate(2024, 7, 1), QTime(22, 30), Qt::UTC)
-                                                   << QDate(2024, 7, 2);
-    QTest::newRow("night the clocks go forward") << QDateTime(QDate(2024, 3, 31), QTime(3, 30), berlin)
-                                                 << QDate(2024, 3, 31);
-    QTest::newRow("night the clocks go back") << QDateTime(QDate(2024, 10, 27), QTime(23, 30), berlin)
-                                              << QDate(2024, 10, 27);
+    QTest::newRow("a millisecond before")
+        << QDateTime(QDate(2024, 1, 9), QTime(23, 59, 59, 999), berlin) << QDate(2024, 1, 9);
+    QTest::newRow("utc evening is local tomorrow")
+        << QDateTime(QDate(2024, 7, 1), QTime(22, 30), Qt::UTC) << QDate(2024, 7, 2);
+    QTest::newRow("night the clocks go forward")
+        << QDateTime(QDate(2024, 3, 31), QTime(3, 30), berlin) << QDate(2024, 3, 31);
+    QTest::newRow("night the clocks go back")
+        << QDateTime(QDate(2024, 10, 27), QTime(23, 30), berlin) << QDate(2024, 10, 27);
     QTest::newRow("new york evening") << QDateTime(QDate(2024, 1, 10), QTime(19, 0), QTimeZone("America/New_York"))
                                       << QDate(2024, 1, 11);
     QTest::newRow("before 1970") << QDateTime(QDate(1969, 12, 31), QTime(23, 30), berlin) << QDate(1969, 12, 31);

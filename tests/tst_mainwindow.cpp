@@ -187,15 +187,18 @@ void TestMainWindow::importIcsFromCommand_data()
     QTest::newRow("missing file") << QString() << QByteArray() << false << "Couldn't open file"
                                   << "Couldn't open \"missing.ics\" for reading.";
     QTest::newRow("no events") << "tasks.ics"
-                               << QByteArray("BEGIN:VCALENDAR\r\nBEGIN:VTODO\r\nUID:t\r\nEND:VTODO\r\nEND:VCALENDAR\r\n")
-                               << false << "Nothing to import" << "No events found in \"tasks.ics\".";
+                               << QByteArray(
+                                      "BEGIN:VCALENDAR\r\nBEGIN:VTODO\r\nUID:t\r\nEND:VTODO\r\nEND:VCALENDAR\r\n")
+                               << false << "Nothing to import"
+                               << "No events found in \"tasks.ics\".";
     QTest::newRow("not a calendar") << "notes.ics" << QByteArray("just some notes\n") << false << "Nothing to import"
                                     << "No events found in \"notes.ics\".";
     QTest::newRow("no writable calendar")
         << "invite.ics"
         << QByteArray("BEGIN:VCALENDAR\r\nBEGIN:VEVENT\r\nUID:u1\r\nSUMMARY:Review\r\nDTSTART:20240314T090000Z\r\n"
                       "END:VEVENT\r\nEND:VCALENDAR\r\n")
-        << true << "No calendars configured" << "Add a writable calendar first; then re-import \"invite.ics\".";
+        << true << "No calendars configured"
+        << "Add a writable calendar first; then re-import \"invite.ics\".";
 }
 
 void TestMainWindow::importIcsFromCommand()

@@ -42,8 +42,8 @@ private slots:
 private:
     // An event starting `startOffsetSecs` from now with one reminder of `minutesBefore` that fell
     // due `dueAgoSecs` ago.
-    void addEvent(const QString &id, const QString &title, qint64 startOffsetSecs, int minutesBefore,
-                  qint64 dueAgoSecs, const QString &location = QString());
+    void addEvent(const QString &id, const QString &title, qint64 startOffsetSecs, int minutesBefore, qint64 dueAgoSecs,
+                  const QString &location = QString());
     void poll() { m_service->poll(); }
     bool acknowledged(const QString &eventId);
 
@@ -106,18 +106,42 @@ void TestNotificationService::phrases_data()
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("expectedTitle");
     QTest::addColumn<QString>("expectedBody");
-    QTest::newRow("in minutes") << 10 << qint64(600) << "" << "Standup" << "Standup" << "In 10 minutes (2:10 PM)";
-    QTest::newRow("starting now") << 0 << qint64(1) << "" << "Call" << "Call" << "Starting now (2:00 PM)";
-    QTest::newRow("negative offset") << -5 << qint64(60) << "" << "Late" << "Late" << "In -5 minutes (2:01 PM)";
-    QTest::newRow("hours truncated") << 90 << qint64(5400) << "" << "Flight" << "Flight" << "In 1h (3:30 PM)";
-    QTest::newRow("23 hours") << 1439 << qint64(3600) << "" << "Review" << "Review" << "In 23h (3:00 PM)";
-    QTest::newRow("tomorrow whatever the days") << 2880 << qint64(7200) << "" << "Trip" << "Trip"
+    QTest::newRow("in minutes") << 10 << qint64(600) << ""
+                                << "Standup"
+                                << "Standup"
+                                << "In 10 minutes (2:10 PM)";
+    QTest::newRow("starting now") << 0 << qint64(1) << ""
+                                  << "Call"
+                                  << "Call"
+                                  << "Starting now (2:00 PM)";
+    QTest::newRow("negative offset") << -5 << qint64(60) << ""
+                                     << "Late"
+                                     << "Late"
+                                     << "In -5 minutes (2:01 PM)";
+    QTest::newRow("hours truncated") << 90 << qint64(5400) << ""
+                                     << "Flight"
+                                     << "Flight"
+                                     << "In 1h (3:30 PM)";
+    QTest::newRow("23 hours") << 1439 << qint64(3600) << ""
+                              << "Review"
+                              << "Review"
+                              << "In 23h (3:00 PM)";
+    QTest::newRow("tomorrow whatever the days") << 2880 << qint64(7200) << ""
+                                                << "Trip"
+                                                << "Trip"
                                                 << "Tomorrow at 4:00 PM";
-    QTest::newRow("with location") << 15 << qint64(900) << "Room 4" << "Sync" << "Sync"
-                                    << "In 15 minutes (2:15 PM) · Room 4";
-    QTest::newRow("no title") << 5 << qint64(300) << "" << "" << "Reminder" << "In 5 minutes (2:05 PM)";
+    QTest::newRow("with location") << 15 << qint64(900) << "Room 4"
+                                   << "Sync"
+                                   << "Sync"
+                                   << "In 15 minutes (2:15 PM) · Room 4";
+    QTest::newRow("no title") << 5 << qint64(300) << ""
+                              << ""
+                              << "Reminder"
+                              << "In 5 minutes (2:05 PM)";
     // The phrase follows the reminder, not the time actually left: the event began 20 minutes ago.
-    QTest::newRow("started 20 minutes ago") << 10 << qint64(-1200) << "" << "Retro" << "Retro"
+    QTest::newRow("started 20 minutes ago") << 10 << qint64(-1200) << ""
+                                            << "Retro"
+                                            << "Retro"
                                             << "In 10 minutes (1:40 PM)";
 }
 
@@ -150,7 +174,8 @@ void TestNotificationService::dueRemindersInOrderAcknowledgedTogether()
     QCOMPARE(shown.at(0).at(2).toString(), QStringLiteral("a"));
     QCOMPARE(shown.at(1).at(2).toString(), QStringLiteral("b"));
     QCOMPARE(shown.at(2).at(2).toString(), QStringLiteral("c"));
-    QVERIFY(acknowledged(QStringLiteral("a")) && acknowledged(QStringLiteral("b")) && acknowledged(QStringLiteral("c")));
+    QVERIFY(acknowledged(QStringLiteral("a")) && acknowledged(QStringLiteral("b"))
+            && acknowledged(QStringLiteral("c")));
     QVERIFY(!acknowledged(QStringLiteral("later")));
 }
 

@@ -110,14 +110,15 @@ void TestPlatformIntegration::icsAssociationIsWrittenOnceAndKeepsOtherEntries()
     PlatformIntegration::registerIcsFileAssociation();
     const QString desktopFile = QFileInfo(PlatformIntegration::desktopEntryPath()).fileName();
     QVERIFY(desktopFile.endsWith(QStringLiteral(".desktop")));
-    QCOMPARE(readAll(mimeApps), QByteArray("[Default Applications]\n"
-                                           "text/html=firefox.desktop;\n"
-                                           "text/calendar=")
-                                    + desktopFile.toUtf8()
-                                    + ";\n"
-                                      "\n"
-                                      "[Added Associations]\n"
-                                      "image/png=viewer.desktop;\n");
+    QCOMPARE(readAll(mimeApps),
+             QByteArray("[Default Applications]\n"
+                        "text/html=firefox.desktop;\n"
+                        "text/calendar=")
+                 + desktopFile.toUtf8()
+                 + ";\n"
+                   "\n"
+                   "[Added Associations]\n"
+                   "image/png=viewer.desktop;\n");
 
     const QByteArray entry = readAll(PlatformIntegration::desktopEntryPath());
     QVERIFY(entry.contains("\nMimeType=text/calendar;\n"));
@@ -152,13 +153,20 @@ void TestPlatformIntegration::resolvedLanguage_data()
     QTest::addColumn<QString>("systemLocale");
     QTest::addColumn<bool>("resolveSystem");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("system, supported") << "system" << "ja_JP" << true << "ja";
-    QTest::newRow("system, German in Austria") << "system" << "de_AT" << true << "de";
-    QTest::newRow("system, unsupported") << "system" << "pt_BR" << true << "en";
-    QTest::newRow("system, C locale") << "system" << "C" << true << "en";
-    QTest::newRow("system unresolved") << "system" << "de_DE" << false << "system";
-    QTest::newRow("explicit choice") << "fr" << "de_DE" << true << "fr";
-    QTest::newRow("stored value is not validated") << "xx" << "de_DE" << true << "xx";
+    QTest::newRow("system, supported") << "system"
+                                       << "ja_JP" << true << "ja";
+    QTest::newRow("system, German in Austria") << "system"
+                                               << "de_AT" << true << "de";
+    QTest::newRow("system, unsupported") << "system"
+                                         << "pt_BR" << true << "en";
+    QTest::newRow("system, C locale") << "system"
+                                      << "C" << true << "en";
+    QTest::newRow("system unresolved") << "system"
+                                       << "de_DE" << false << "system";
+    QTest::newRow("explicit choice") << "fr"
+                                     << "de_DE" << true << "fr";
+    QTest::newRow("stored value is not validated") << "xx"
+                                                   << "de_DE" << true << "xx";
 }
 
 void TestPlatformIntegration::resolvedLanguage()

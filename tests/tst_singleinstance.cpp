@@ -95,8 +95,8 @@ void TestSingleInstance::commandFromArguments_data()
     QTest::newRow("earlier text stays") << QStringList{"--quick-add", "foo", "--ics", "a.ics"}
                                         << R"({"cmd":"open-ics","path":"a.ics","text":"foo"})";
     QTest::newRow("background is no command") << QStringList{"--background"} << R"({"cmd":"focus"})";
-    QTest::newRow("background with quick-add") << QStringList{"--background", "--quick-add", "Call Sam"}
-                                               << R"({"cmd":"quick-add","text":"Call Sam"})";
+    QTest::newRow("background with quick-add")
+        << QStringList{"--background", "--quick-add", "Call Sam"} << R"({"cmd":"quick-add","text":"Call Sam"})";
     QTest::newRow("unknown arguments ignored") << QStringList{"--frobnicate", "hello"} << R"({"cmd":"focus"})";
     QTest::newRow("missing bare ics ignored") << QStringList{"nowhere/Invite.ics"} << R"({"cmd":"focus"})";
 }
@@ -140,13 +140,15 @@ void TestSingleInstance::dispatch_data()
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QString>("signal");
 
-    QTest::newRow("focus") << QByteArray(R"({"cmd":"focus"})" "\n") << "focus";
+    QTest::newRow("focus") << QByteArray(R"({"cmd":"focus"})"
+                                         "\n")
+                           << "focus";
     QTest::newRow("show today") << QByteArray(R"({"cmd":"show-today"})") << "show-today";
     QTest::newRow("new event") << QByteArray(R"({"cmd":"new-event"})") << "new-event";
     QTest::newRow("quick-add") << QByteArray(R"({"cmd":"quick-add","text":"Lunch at 12"})") << "quick-add:Lunch at 12";
     QTest::newRow("quick-add without text") << QByteArray(R"({"cmd":"quick-add"})") << "quick-add:";
-    QTest::newRow("open-ics reads only path") << QByteArray(R"({"cmd":"open-ics","path":"a.ics","text":"foo"})")
-                                              << "open-ics:a.ics";
+    QTest::newRow("open-ics reads only path")
+        << QByteArray(R"({"cmd":"open-ics","path":"a.ics","text":"foo"})") << "open-ics:a.ics";
     QTest::newRow("unknown command") << QByteArray(R"({"cmd":"reboot"})") << "focus";
     QTest::newRow("no cmd") << QByteArray(R"({"text":"x"})") << "focus";
     QTest::newRow("not json") << QByteArray("hello\n") << "focus";

@@ -20,7 +20,9 @@ void TestUndoStack::keepsTheLastTwentyAndUndoesNewestFirst()
     UndoStack stack;
     QList<int> restored;
     for (int i = 1; i <= 25; ++i)
-        stack.push({QStringLiteral("Moved \"%1\"").arg(i), [&restored, i] { restored.append(i); }});
+        stack.push({QStringLiteral("Moved \"%1\"").arg(i), [&restored, i] {
+                        restored.append(i);
+                    }});
     QCOMPARE(stack.count(), UndoStack::kCapacity);
 
     QSignalSpy undone(&stack, &UndoStack::undone);
@@ -56,7 +58,9 @@ void TestUndoStack::changedComesBeforeUndone()
     QStringList order;
     connect(&stack, &UndoStack::changed, this, [&] { order.append(QStringLiteral("changed")); });
     connect(&stack, &UndoStack::undone, this, [&](const QString &s) { order.append(s); });
-    stack.push({QStringLiteral("Resized \"Standup\""), [&] { order.append(QStringLiteral("closure")); }});
+    stack.push({QStringLiteral("Resized \"Standup\""), [&] {
+                    order.append(QStringLiteral("closure"));
+                }});
     order.clear();
     stack.undo();
     QCOMPARE(order, (QStringList{"closure", "changed", "Resized \"Standup\""}));
@@ -65,8 +69,12 @@ void TestUndoStack::changedComesBeforeUndone()
 void TestUndoStack::closureThatPushesAddsWithoutTheOldEntry()
 {
     UndoStack stack;
-    stack.push({QStringLiteral("first"), [] {}});
-    stack.push({QStringLiteral("second"), [&stack] { stack.push({QStringLiteral("pushed by undo"), [] {}}); }});
+    stack.push({QStringLiteral("first"), [] {
+                }});
+    stack.push({QStringLiteral("second"), [&stack] {
+                    stack.push({QStringLiteral("pushed by undo"), [] {
+                                }});
+                }});
     QSignalSpy undone(&stack, &UndoStack::undone);
     stack.undo();
     QCOMPARE(stack.count(), 2);
