@@ -32,7 +32,6 @@
 #include <QToolButton>
 
 Q_DECLARE_METATYPE(Event)
-Q_DECLARE_METATYPE(EventEditor::Scope)
 Q_DECLARE_METATYPE(RepeatPresets::Preset)
 
 namespace {
@@ -42,6 +41,24 @@ const QTimeZone kBerlin("Europe/Berlin");
 QDateTime at(int day, int hour, int minute = 0)
 {
     return QDateTime(QDate(2024, 1, day), QTime(hour, minute), kBerlin);
+}
+
+QDateTime utcDay(int day)
+{
+    return QDateTime(QDate(2024, 1, day), QTime(0, 0), QTimeZone::utc());
+}
+
+// An event of `title`; without a zone it keeps the record's default one.
+Event timed(const QString &title, const QDateTime &start, const QDateTime &end, const QString &zone = {})
+{
+    Event event;
+    event.title = title;
+    if (!zone.isEmpty())
+        event.timezone = zone;
+    event.start_time = start;
+    if (end.isValid())
+        event.end_time = end;
+    return event;
 }
 
 // The fields a save is expected to change whatever was edited.
@@ -54,9 +71,26 @@ Event withoutSaveMarks(Event event)
     return event;
 }
 
+// Answers the scope question of a repeating event with `choice`.
+void chooseScope(QWidget *dialog, const char *choice)
+{
+    dialog->findChild<QRadioButton *>(QLatin1String(choice))->click();
+    dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
+}
+
+template<typename T>
+T *field(const QWidget &form, const char *name)
+{
+    T *widget = form.findChild<T *>(QLatin1String(name));
+    if (!widget)
+        qWarning("no field %s", name);
+    return widget;
+}
+
 } // namespace
 
-// The event form: what it stores for new and existing events, series scopes, and its fields.
+// The event form: what it stores for new and existing events, series scopes,
+// and its fields.
 class TestEventForm : public QObject
 {
     Q_OBJECT
@@ -66,7 +100,6 @@ private slots:
     void init();
     void cleanup();
 
-    void scopeQuestion_data();
     void scopeQuestion();
     void occurrenceEdit_data();
     void occurrenceEdit();
@@ -83,9 +116,7 @@ private slots:
     void endBeforeStartBlocksSave();
     void calendarPreselection_data();
     void calendarPreselection();
-    void reminderPresets_data();
-    void reminderPresets();
-    void newEventReminders();
+    void reminders();
     void emptyTitle();
     void timeZones();
     void readOnlyCalendarOpensReadOnly();
@@ -95,14 +126,11 @@ private:
     Event store(Event event);
     Event dailyStandup();
     QList<Event> weekOf(const QString &calendarId) const;
-    template<typename T>
-    static T *field(const EventFormDialog &form, const char *name)
-    {
-        T *widget = form.findChild<T *>(QLatin1String(name));
-        if (!widget)
-            qWarning("no field %s", name);
-        return widget;
-    }
+    // A form on screen for a new event, by default 10:00–11:00 on Tuesday 9
+    // January.
+    std::unique_ptr<EventFormDialog> newForm(const QDateTime &start = at(9, 10), const QDateTime &end = at(9, 11),
+                                             bool allDay = false);
+    std::unique_ptr<EventFormDialog> formFor(const Event &occurrence);
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<AppState> m_state;
@@ -158,11 +186,7 @@ Event TestEventForm::store(Event event)
 // Standup, every day 09:00–10:00 from Monday 8 January 2024.
 Event TestEventForm::dailyStandup()
 {
-    Event event;
-    event.title = QStringLiteral("Standup");
-    event.start_time = at(8, 9);
-    event.end_time = at(8, 10);
-    event.timezone = QStringLiteral("Europe/Berlin");
+    Event event = timed(QStringLiteral("Standup"), at(8, 9), at(8, 10), QStringLiteral("Europe/Berlin"));
     event.recurrence_rule = QStringLiteral("FREQ=DAILY");
     return store(event);
 }
@@ -172,45 +196,45 @@ QList<Event> TestEventForm::weekOf(const QString &calendarId) const
     return Recurrence::expandEvents(m_state->events()->getByCalendar(calendarId), at(8, 0), at(15, 0));
 }
 
-void TestEventForm::scopeQuestion_data()
+std::unique_ptr<EventFormDialog> TestEventForm::newForm(const QDateTime &start, const QDateTime &end, bool allDay)
 {
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<bool>("confirm");
-    QTest::addColumn<bool>("answered");
-    QTest::addColumn<EventEditor::Scope>("expected");
-    QTest::newRow("only this") << RecurrenceScopeDialog::kThisEventName << true << true
-                               << EventEditor::Scope::ThisEvent;
-    QTest::newRow("following") << RecurrenceScopeDialog::kThisAndFollowingName << true << true
-                               << EventEditor::Scope::ThisAndFollowing;
-    QTest::newRow("all") << RecurrenceScopeDialog::kAllEventsName << true << true << EventEditor::Scope::AllEvents;
-    QTest::newRow("cancelled") << RecurrenceScopeDialog::kAllEventsName << false << false
-                               << EventEditor::Scope::ThisAndFollowing; // untouched
+    auto form = std::make_unique<EventFormDialog>(m_state.get(), m_editor.get());
+    form->setNewEvent(start, end, allDay);
+    form->show();
+    return form;
+}
+
+std::unique_ptr<EventFormDialog> TestEventForm::formFor(const Event &occurrence)
+{
+    auto form = std::make_unique<EventFormDialog>(m_state.get(), m_editor.get());
+    form->setEvent(occurrence);
+    form->show();
+    return form;
 }
 
 void TestEventForm::scopeQuestion()
 {
-    QFETCH(QString, choice);
-    QFETCH(bool, confirm);
-    QFETCH(bool, answered);
-    QFETCH(EventEditor::Scope, expected);
-    QString heading;
-    ModalAnswer answer([&](QWidget *dialog) {
-        for (QLabel *label : dialog->findChildren<QLabel *>()) {
-            if (label->text() == QLatin1String("Move repeating event"))
-                heading = label->text();
-        }
-        dialog->findChild<QRadioButton *>(choice)->click();
-        if (confirm)
-            dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
-        else
-            QTest::keyClick(dialog, Qt::Key_Escape);
-    });
-    EventEditor::Scope scope = EventEditor::Scope::ThisAndFollowing;
-    QCOMPARE(RecurrenceScopeDialog::ask(nullptr, &scope, QStringLiteral("Move repeating event")), answered);
-    QVERIFY(answer.seen());
-    QCOMPARE(answer.title(), QStringLiteral("Move repeating event"));
-    QCOMPARE(heading, QStringLiteral("Move repeating event"));
-    QCOMPARE(scope, expected);
+    // Each choice is carried through by occurrenceEdit; here the question itself
+    // and its cancel.
+    for (const bool confirm : {true, false}) {
+        QString heading;
+        ModalAnswer answer([&](QWidget *dialog) {
+            for (QLabel *label : dialog->findChildren<QLabel *>()) {
+                if (label->text() == QLatin1String("Move repeating event"))
+                    heading = label->text();
+            }
+            dialog->findChild<QRadioButton *>(QLatin1String(RecurrenceScopeDialog::kAllEventsName))->click();
+            if (confirm)
+                dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
+            else
+                QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        EventEditor::Scope scope = EventEditor::Scope::ThisAndFollowing;
+        QCOMPARE(RecurrenceScopeDialog::ask(nullptr, &scope, QStringLiteral("Move repeating event")), confirm);
+        QCOMPARE(answer.title(), QStringLiteral("Move repeating event"));
+        QCOMPARE(heading, QStringLiteral("Move repeating event"));
+        QCOMPARE(scope, confirm ? EventEditor::Scope::AllEvents : EventEditor::Scope::ThisAndFollowing);
+    }
 }
 
 void TestEventForm::occurrenceEdit_data()
@@ -218,97 +242,68 @@ void TestEventForm::occurrenceEdit_data()
     QTest::addColumn<QString>("choice");
     QTest::addColumn<int>("rows");
     QTest::addColumn<QList<int>>("hours"); // start hour of each day of the week, Monday first
+    QTest::addColumn<QString>("masterRule");
 
     QTest::newRow("only this event: an override")
-        << RecurrenceScopeDialog::kThisEventName << 2 << QList<int>{9, 9, 11, 9, 9, 9, 9};
+        << RecurrenceScopeDialog::kThisEventName << 2 << QList<int>{9, 9, 11, 9, 9, 9, 9} << "FREQ=DAILY";
     QTest::newRow("this and following: a split")
-        << RecurrenceScopeDialog::kThisAndFollowingName << 2 << QList<int>{9, 9, 11, 11, 11, 11, 11};
+        << RecurrenceScopeDialog::kThisAndFollowingName << 2 << QList<int>{9, 9, 11, 11, 11, 11, 11}
+        << "FREQ=DAILY;UNTIL=20240110T075959Z";
     QTest::newRow("all events: the master shifts")
-        << RecurrenceScopeDialog::kAllEventsName << 1 << QList<int>{11, 11, 11, 11, 11, 11, 11};
+        << RecurrenceScopeDialog::kAllEventsName << 1 << QList<int>{11, 11, 11, 11, 11, 11, 11} << "FREQ=DAILY";
 }
 
 void TestEventForm::occurrenceEdit()
 {
     QFETCH(QString, choice);
-    QFETCH(int, rows);
     QFETCH(QList<int>, hours);
 
     const Event master = dailyStandup();
-    const QList<Event> before = weekOf(master.calendar_id);
-    QCOMPARE(before.size(), 7);
-    const Event wednesday = before.at(2);
+    const Event wednesday = weekOf(master.calendar_id).value(2);
     QCOMPARE(wednesday.recurrence_id, QStringLiteral("20240110T080000Z"));
 
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(wednesday);
-    form.show();
-    field<QLineEdit>(form, "titleEdit")->setText(QStringLiteral("Standup (late)"));
-    field<QTimeEdit>(form, "startTime")->setTime(QTime(11, 0));
-    QCOMPARE(field<QTimeEdit>(form, "endTime")->time(), QTime(12, 0));
+    auto form = formFor(wednesday);
+    field<QLineEdit>(*form, "titleEdit")->setText(QStringLiteral("Standup (late)"));
+    field<QTimeEdit>(*form, "startTime")->setTime(QTime(11, 0));
+    QCOMPARE(field<QTimeEdit>(*form, "endTime")->time(), QTime(12, 0));
 
-    ModalAnswer answer([&](QWidget *dialog) {
-        dialog->findChild<QRadioButton *>(choice)->click();
-        dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
-    });
-    QVERIFY(form.save());
-    QVERIFY(answer.seen());
+    ModalAnswer answer([&](QWidget *dialog) { chooseScope(dialog, qPrintable(choice)); });
+    QVERIFY(form->save());
     QCOMPARE(answer.title(), QStringLiteral("Save repeating event"));
 
-    const QList<Event> stored = m_state->events()->getByCalendar(master.calendar_id);
-    QCOMPARE(stored.size(), rows);
-    const Event storedMaster = m_state->events()->getById(master.id).value();
-    // The saved event is the override, the new series, or the master that moved with it.
-    const Event saved = form.savedEvent();
-    const int savedDay = choice == QLatin1String(RecurrenceScopeDialog::kAllEventsName) ? 8 : 10;
-    QCOMPARE(saved.start_time, at(savedDay, 11));
-    QCOMPARE(*saved.end_time, at(savedDay, 12));
-    QCOMPARE(saved.title, QStringLiteral("Standup (late)"));
+    QTEST(int(m_state->events()->getByCalendar(master.calendar_id).size()), "rows");
+    QTEST(m_state->events()->getById(master.id)->recurrence_rule, "masterRule");
+    // The saved event is the override, the new series, or the master that moved
+    // with it.
+    const bool all = choice == QLatin1String(RecurrenceScopeDialog::kAllEventsName);
+    const Event saved = form->savedEvent();
+    QCOMPARE(saved.id == master.id, all);
+    QCOMPARE(saved.start_time, at(all ? 8 : 10, 11));
+    QCOMPARE(*saved.end_time, at(all ? 8 : 10, 12));
     QCOMPARE(saved.sync_status, QStringLiteral("pending"));
-
-    if (choice == QLatin1String(RecurrenceScopeDialog::kThisEventName)) {
-        QVERIFY(saved.id != master.id);
-        QCOMPARE(saved.master_event_uid, master.uid);
-        QCOMPARE(saved.recurrence_id, QStringLiteral("20240110T080000Z"));
-        QVERIFY(saved.recurrence_rule.isEmpty());
-        QCOMPARE(storedMaster.title, QStringLiteral("Standup"));
-        QCOMPARE(storedMaster.recurrence_rule, QStringLiteral("FREQ=DAILY"));
-    } else if (choice == QLatin1String(RecurrenceScopeDialog::kThisAndFollowingName)) {
-        QVERIFY(saved.id != master.id);
-        QCOMPARE(saved.recurrence_rule, QStringLiteral("FREQ=DAILY"));
-        QCOMPARE(storedMaster.recurrence_rule, QStringLiteral("FREQ=DAILY;UNTIL=20240110T075959Z"));
-        QCOMPARE(storedMaster.title, QStringLiteral("Standup"));
-    } else {
-        QCOMPARE(saved.id, master.id);
-        QCOMPARE(storedMaster.start_time, at(8, 11));
-        QCOMPARE(*storedMaster.end_time, at(8, 12));
-        QCOMPARE(storedMaster.recurrence_rule, QStringLiteral("FREQ=DAILY"));
-    }
 
     const QList<Event> after = weekOf(master.calendar_id);
     QCOMPARE(after.size(), 7);
     for (int day = 0; day < 7; ++day) {
-        const Event &occurrence = after.at(day);
-        QCOMPARE(occurrence.start_time.toLocalTime().date(), QDate(2024, 1, 8 + day));
-        QCOMPARE(occurrence.start_time.toLocalTime().time().hour(), hours.at(day));
-        QCOMPARE(occurrence.title, hours.at(day) == 11 ? QStringLiteral("Standup (late)") : QStringLiteral("Standup"));
+        const QDateTime start = after.at(day).start_time.toLocalTime();
+        QCOMPARE(start, QDateTime(QDate(2024, 1, 8 + day), QTime(hours.at(day), 0)));
+        QCOMPARE(after.at(day).title,
+                 hours.at(day) == 11 ? QStringLiteral("Standup (late)") : QStringLiteral("Standup"));
     }
 }
 
 void TestEventForm::repeatChangeNeedsWiderScope()
 {
     const Event master = dailyStandup();
-    const Event tuesday = weekOf(master.calendar_id).at(1);
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(tuesday);
-    form.show();
-    auto *repeat = field<QComboBox>(form, "repeat");
+    auto form = formFor(weekOf(master.calendar_id).at(1));
+    auto *repeat = field<QComboBox>(*form, "repeat");
     repeat->setCurrentIndex(repeat->findData(int(RepeatPresets::Preset::Weekly)));
     ModalAnswer answer([](QWidget *dialog) {
         dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
     });
-    QVERIFY(!form.save());
+    QVERIFY(!form->save());
     QVERIFY(answer.seen());
-    QVERIFY(field<QLabel>(form, "formError")->isVisibleTo(&form));
+    QVERIFY(field<QLabel>(*form, "formError")->isVisibleTo(form.get()));
     QCOMPARE(m_state->events()->getByCalendar(master.calendar_id).size(), 1);
     QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule, QStringLiteral("FREQ=DAILY"));
 }
@@ -317,22 +312,18 @@ void TestEventForm::roundTrip_data()
 {
     QTest::addColumn<Event>("event");
 
-    Event full;
-    full.title = QStringLiteral("Design review");
+    Event full = timed(QStringLiteral("Design review"), at(9, 10), at(9, 11, 30), QStringLiteral("Europe/Berlin"));
     full.location = QStringLiteral("Room 4.12, Building B");
     full.description = QStringLiteral("Agenda:\n- onboarding flow\n- empty states");
     full.color = QStringLiteral("#30A46C");
-    full.timezone = QStringLiteral("Europe/Berlin");
-    full.start_time = at(9, 10);
-    full.end_time = at(9, 11, 30);
     full.conference_url = QStringLiteral("https://meet.example.com/abc-defg");
     full.organizer_email = QStringLiteral("maya@example.com");
     full.organizer_name = QStringLiteral("Maya Chen");
-    Reminder tenMinutes;
-    tenMinutes.minutes_before = 10;
-    Reminder oneDay;
-    oneDay.minutes_before = 1440;
-    full.reminders = {tenMinutes, oneDay};
+    for (const int minutes : {10, 1440}) {
+        Reminder reminder;
+        reminder.minutes_before = minutes;
+        full.reminders.append(reminder);
+    }
     Attendee attendee;
     attendee.email = QStringLiteral("jonas@example.com");
     attendee.name = QStringLiteral("Jonas Weber");
@@ -340,58 +331,29 @@ void TestEventForm::roundTrip_data()
     full.attendees = {attendee};
     QTest::newRow("timed with every field") << full;
 
-    Event allDay;
-    allDay.title = QStringLiteral("Offsite");
+    Event allDay = timed(QStringLiteral("Offsite"), utcDay(9), utcDay(12));
     allDay.is_all_day = true;
-    allDay.start_time = QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc());
-    allDay.end_time = QDateTime(QDate(2024, 1, 12), QTime(0, 0), QTimeZone::utc());
     QTest::newRow("all-day over three days") << allDay;
-
-    Event quickAllDay;
-    quickAllDay.title = QStringLiteral("Mum's birthday");
+    Event quickAllDay = timed(QStringLiteral("Mum's birthday"), at(14, 0), at(15, 0)); // quick entry: local midnight
     quickAllDay.is_all_day = true;
-    quickAllDay.start_time = at(14, 0); // quick entry writes local midnight
-    quickAllDay.end_time = at(15, 0);
     QTest::newRow("all-day at local midnight") << quickAllDay;
 
-    Event newYork;
-    newYork.title = QStringLiteral("Call with the New York office");
-    newYork.timezone = QStringLiteral("America/New_York");
-    newYork.start_time = QDateTime(QDate(2024, 1, 10), QTime(9, 0), QTimeZone("America/New_York"));
-    newYork.end_time = newYork.start_time.addSecs(2700);
-    QTest::newRow("another zone") << newYork;
+    const QTimeZone newYork("America/New_York");
+    QTest::newRow("another zone") << timed(QStringLiteral("Call"), QDateTime(QDate(2024, 1, 10), QTime(9, 0), newYork),
+                                           QDateTime(QDate(2024, 1, 10), QTime(9, 45), newYork),
+                                           QStringLiteral("America/New_York"));
+    QTest::newRow("UTC") << timed(QStringLiteral("Release window"), utcDay(11).addSecs(8 * 3600),
+                                  utcDay(11).addSecs(10 * 3600));
+    QTest::newRow("no end") << timed(QStringLiteral("Parcel arrives"), at(12, 14), {}, QStringLiteral("Europe/Berlin"));
+    const QDateTime plusFive(QDate(2024, 1, 9), QTime(10, 0), QTimeZone(5 * 3600));
+    QTest::newRow("zone this computer does not know")
+        << timed(QStringLiteral("Imported"), plusFive, plusFive.addSecs(3600), QStringLiteral("Custom/Headquarters"));
 
-    Event utc;
-    utc.title = QStringLiteral("Release window");
-    utc.start_time = QDateTime(QDate(2024, 1, 11), QTime(8, 0), QTimeZone::utc());
-    utc.end_time = utc.start_time.addSecs(7200);
-    QTest::newRow("UTC") << utc;
-
-    Event noEnd;
-    noEnd.title = QStringLiteral("Parcel arrives");
-    noEnd.timezone = QStringLiteral("Europe/Berlin");
-    noEnd.start_time = at(12, 14);
-    QTest::newRow("no end") << noEnd;
-
-    Event unknownZone;
-    unknownZone.title = QStringLiteral("Imported with a private zone");
-    unknownZone.timezone = QStringLiteral("Custom/Headquarters");
-    unknownZone.start_time = QDateTime(QDate(2024, 1, 9), QTime(10, 0), QTimeZone(5 * 3600));
-    unknownZone.end_time = unknownZone.start_time.addSecs(3600);
-    QTest::newRow("zone this computer does not know") << unknownZone;
-
-    Event custom;
-    custom.title = QStringLiteral("Piano lesson");
-    custom.timezone = QStringLiteral("Europe/Berlin");
-    custom.start_time = at(9, 17);
-    custom.end_time = at(9, 18);
+    Event custom = timed(QStringLiteral("Piano lesson"), at(9, 17), at(9, 18), QStringLiteral("Europe/Berlin"));
     custom.recurrence_rule = QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=TU,TH");
     QTest::newRow("series with a custom rule") << custom;
-
-    Event lowerCase = custom;
-    lowerCase.title = QStringLiteral("Stretch");
-    lowerCase.recurrence_rule = QStringLiteral("freq=daily");
-    QTest::newRow("series with a rule in lower case") << lowerCase;
+    custom.recurrence_rule = QStringLiteral("freq=daily");
+    QTest::newRow("series with a rule in lower case") << custom;
 }
 
 void TestEventForm::roundTrip()
@@ -405,7 +367,8 @@ void TestEventForm::roundTrip()
     QCOMPARE(opened.start_time, stored.start_time);
 
     {
-        // Opened and saved without a change: the form describes the event exactly and writes nothing.
+        // Opened and saved without a change: the form describes the event exactly
+        // and writes nothing.
         EventFormDialog form(m_state.get(), m_editor.get());
         form.setEvent(opened);
         QCOMPARE(form.editedEvent(), opened);
@@ -414,15 +377,10 @@ void TestEventForm::roundTrip()
     }
 
     // A new title only: everything else stays as it was.
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(opened);
-    form.show();
-    field<QLineEdit>(form, "titleEdit")->setText(stored.title + QStringLiteral(" (moved)"));
-    ModalAnswer answer([](QWidget *dialog) {
-        dialog->findChild<QRadioButton *>(QLatin1String(RecurrenceScopeDialog::kAllEventsName))->click();
-        dialog->findChild<QPushButton *>(QLatin1String(RecurrenceScopeDialog::kConfirmName))->click();
-    });
-    QVERIFY(form.save());
+    auto form = formFor(opened);
+    field<QLineEdit>(*form, "titleEdit")->setText(stored.title + QStringLiteral(" (moved)"));
+    ModalAnswer answer([](QWidget *dialog) { chooseScope(dialog, RecurrenceScopeDialog::kAllEventsName); });
+    QVERIFY(form->save());
     QCOMPARE(answer.seen(), series);
     const Event after = m_state->events()->getById(stored.id).value();
     QCOMPARE(after.sync_status, QStringLiteral("pending"));
@@ -439,59 +397,54 @@ void TestEventForm::repeatPresetToRule_data()
     using RepeatPresets::Preset;
     QTest::addColumn<Preset>("preset");
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("valid");
-    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("stored"); // empty for Custom: the rule is refused
 
-    QTest::newRow("does not repeat") << Preset::None << QString() << true << QString();
-    QTest::newRow("daily") << Preset::Daily << QString() << true << QStringLiteral("FREQ=DAILY");
-    QTest::newRow("weekdays") << Preset::Weekdays << QString() << true
-                              << QStringLiteral("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR");
-    QTest::newRow("weekly") << Preset::Weekly << QString() << true << QStringLiteral("FREQ=WEEKLY");
-    QTest::newRow("monthly") << Preset::Monthly << QString() << true << QStringLiteral("FREQ=MONTHLY");
-    QTest::newRow("yearly") << Preset::Yearly << QString() << true << QStringLiteral("FREQ=YEARLY");
-    QTest::newRow("custom") << Preset::Custom << QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH") << true
+    QTest::newRow("does not repeat") << Preset::None << QString() << QString();
+    QTest::newRow("daily") << Preset::Daily << QString() << QStringLiteral("FREQ=DAILY");
+    QTest::newRow("weekdays") << Preset::Weekdays << QString() << QStringLiteral("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR");
+    QTest::newRow("weekly") << Preset::Weekly << QString() << QStringLiteral("FREQ=WEEKLY");
+    QTest::newRow("monthly") << Preset::Monthly << QString() << QStringLiteral("FREQ=MONTHLY");
+    QTest::newRow("yearly") << Preset::Yearly << QString() << QStringLiteral("FREQ=YEARLY");
+    QTest::newRow("custom") << Preset::Custom << QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH")
                             << QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH");
-    QTest::newRow("custom with prefix and blanks") << Preset::Custom << QStringLiteral("  RRULE:FREQ=MONTHLY;COUNT=6 ")
-                                                   << true << QStringLiteral("FREQ=MONTHLY;COUNT=6");
-    QTest::newRow("custom hourly") << Preset::Custom << QStringLiteral("FREQ=HOURLY") << false << QString();
-    QTest::newRow("custom words") << Preset::Custom << QStringLiteral("every tuesday") << false << QString();
-    QTest::newRow("custom empty") << Preset::Custom << QStringLiteral(" ") << false << QString();
+    QTest::newRow("custom with prefix and blanks")
+        << Preset::Custom << QStringLiteral("  RRULE:FREQ=MONTHLY;COUNT=6 ") << QStringLiteral("FREQ=MONTHLY;COUNT=6");
+    QTest::newRow("custom hourly") << Preset::Custom << QStringLiteral("FREQ=HOURLY") << QString();
+    QTest::newRow("custom empty") << Preset::Custom << QStringLiteral(" ") << QString();
 }
 
 void TestEventForm::repeatPresetToRule()
 {
     QFETCH(RepeatPresets::Preset, preset);
     QFETCH(QString, typed);
-    QFETCH(bool, valid);
     QFETCH(QString, stored);
+    const bool custom = preset == RepeatPresets::Preset::Custom;
+    const bool valid = !custom || !stored.isEmpty();
 
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(at(9, 10), at(9, 11), false);
-    form.show();
-    field<QLineEdit>(form, "titleEdit")->setText(QStringLiteral("Gym"));
-    auto *repeat = field<QComboBox>(form, "repeat");
+    auto form = newForm();
+    field<QLineEdit>(*form, "titleEdit")->setText(QStringLiteral("Gym"));
+    auto *repeat = field<QComboBox>(*form, "repeat");
     repeat->setCurrentIndex(repeat->findData(int(preset)));
-    auto *custom = field<QLineEdit>(form, "customRule");
-    QCOMPARE(custom->isVisibleTo(&form), preset == RepeatPresets::Preset::Custom);
-    if (preset == RepeatPresets::Preset::Custom)
-        custom->setText(typed);
+    auto *customRule = field<QLineEdit>(*form, "customRule");
+    QCOMPARE(customRule->isVisibleTo(form.get()), custom);
+    if (custom)
+        customRule->setText(typed);
 
-    auto *save = field<QPushButton>(form, "saveButton");
-    auto *hint = field<QLabel>(form, "ruleHint");
-    QCOMPARE(save->isEnabled(), valid);
+    auto *hint = field<QLabel>(*form, "ruleHint");
+    QCOMPARE(field<QPushButton>(*form, "saveButton")->isEnabled(), valid);
     QCOMPARE(hint->property("error").toBool(), !valid);
-    QCOMPARE(form.save(), valid);
+    QCOMPARE(form->save(), valid);
     const QList<Event> events = m_state->events()->getByCalendar(AppState::kLocalCalendarId);
-    if (preset == RepeatPresets::Preset::Custom && valid) // a valid rule is read back in words
-        QVERIFY(hint->text().startsWith(QLatin1String("Every")));
     if (!valid) {
-        QVERIFY(hint->isVisibleTo(&form));
+        QVERIFY(hint->isVisibleTo(form.get()));
         QCOMPARE(hint->text(),
                  QStringLiteral("This calendar repeats by FREQ=DAILY, FREQ=WEEKLY, FREQ=MONTHLY or "
                                 "FREQ=YEARLY; start the rule with one of them."));
         QVERIFY(events.isEmpty());
         return;
     }
+    if (custom) // a valid rule is read back in words
+        QVERIFY(hint->text().startsWith(QLatin1String("Every")));
     QCOMPARE(events.size(), 1);
     QCOMPARE(events.first().recurrence_rule, stored);
     if (!stored.isEmpty())
@@ -520,78 +473,63 @@ void TestEventForm::storedRuleToPreset()
 {
     QFETCH(QString, rule);
     QFETCH(RepeatPresets::Preset, preset);
-    Event event;
-    event.title = QStringLiteral("Run");
-    event.timezone = QStringLiteral("Europe/Berlin");
-    event.start_time = at(9, 7);
-    event.end_time = at(9, 8);
+    Event event = timed(QStringLiteral("Run"), at(9, 7), at(9, 8), QStringLiteral("Europe/Berlin"));
     event.recurrence_rule = rule;
     const Event stored = store(event);
-    const Event opened = rule.isEmpty() ? stored : Recurrence::expandSeries(stored, at(9, 0), at(10, 0)).value(0);
-
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(opened);
-    form.show();
-    QCOMPARE(RepeatPresets::Preset(field<QComboBox>(form, "repeat")->currentData().toInt()), preset);
-    auto *custom = field<QLineEdit>(form, "customRule");
-    QCOMPARE(custom->isVisibleTo(&form), preset == RepeatPresets::Preset::Custom);
+    auto form = formFor(rule.isEmpty() ? stored : Recurrence::expandSeries(stored, at(9, 0), at(10, 0)).value(0));
+    QCOMPARE(RepeatPresets::Preset(field<QComboBox>(*form, "repeat")->currentData().toInt()), preset);
+    auto *custom = field<QLineEdit>(*form, "customRule");
+    QCOMPARE(custom->isVisibleTo(form.get()), preset == RepeatPresets::Preset::Custom);
     if (preset == RepeatPresets::Preset::Custom)
         QCOMPARE(custom->text(), rule);
     // The rule is kept exactly as written as long as the choice is not changed.
-    QCOMPARE(form.editedEvent().recurrence_rule, rule);
+    QCOMPARE(form->editedEvent().recurrence_rule, rule);
 }
 
 void TestEventForm::allDayEndIsExclusive()
 {
     {
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(QDateTime(QDate(2024, 1, 9), QTime(0, 0)), QDateTime(QDate(2024, 1, 10), QTime(0, 0)), true);
-        form.show();
-        QVERIFY(field<QCheckBox>(form, "allDay")->isChecked());
-        QVERIFY(!field<QTimeEdit>(form, "startTime")->isVisibleTo(&form));
-        QVERIFY(!field<QComboBox>(form, "timeZone")->isVisibleTo(&form));
-        QCOMPARE(field<QDateEdit>(form, "endDate")->date(), QDate(2024, 1, 9));
-        field<QDateEdit>(form, "endDate")->setDate(QDate(2024, 1, 11));
-        field<QLineEdit>(form, "titleEdit")->setText(QStringLiteral("Conference"));
-        QVERIFY(form.save());
-        const Event saved = m_state->events()->getById(form.savedEvent().id).value();
+        auto form = newForm(QDate(2024, 1, 9).startOfDay(), QDate(2024, 1, 10).startOfDay(), true);
+        QVERIFY(field<QCheckBox>(*form, "allDay")->isChecked());
+        QVERIFY(!field<QTimeEdit>(*form, "startTime")->isVisibleTo(form.get()));
+        QVERIFY(!field<QComboBox>(*form, "timeZone")->isVisibleTo(form.get()));
+        QCOMPARE(field<QDateEdit>(*form, "endDate")->date(), QDate(2024, 1, 9));
+        field<QDateEdit>(*form, "endDate")->setDate(QDate(2024, 1, 11));
+        field<QLineEdit>(*form, "titleEdit")->setText(QStringLiteral("Conference"));
+        QVERIFY(form->save());
+        const Event saved = m_state->events()->getById(form->savedEvent().id).value();
         QVERIFY(saved.is_all_day);
-        QCOMPARE(saved.start_time, QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()));
-        QCOMPARE(*saved.end_time, QDateTime(QDate(2024, 1, 12), QTime(0, 0), QTimeZone::utc()));
+        QCOMPARE(saved.start_time, utcDay(9));
+        QCOMPARE(*saved.end_time, utcDay(12));
         QVERIFY(saved.raw_icalendar.contains("DTSTART;VALUE=DATE:20240109\r\n"));
         QVERIFY(saved.raw_icalendar.contains("DTEND;VALUE=DATE:20240112\r\n"));
 
         // Opened again, it shows its last day, not the exclusive end.
-        EventFormDialog again(m_state.get(), m_editor.get());
-        again.setEvent(saved);
-        QCOMPARE(again.findChild<QDateEdit *>(QStringLiteral("startDate"))->date(), QDate(2024, 1, 9));
-        QCOMPARE(again.findChild<QDateEdit *>(QStringLiteral("endDate"))->date(), QDate(2024, 1, 11));
+        auto again = formFor(saved);
+        QCOMPARE(field<QDateEdit>(*again, "startDate")->date(), QDate(2024, 1, 9));
+        QCOMPARE(field<QDateEdit>(*again, "endDate")->date(), QDate(2024, 1, 11));
     }
     {
-        // A timed event made all-day covers the day it was on; made timed again, it gets its hours back.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 10), at(9, 11), false);
-        form.show();
-        auto *allDay = field<QCheckBox>(form, "allDay");
+        // A timed event made all-day covers the day it was on; made timed again, it
+        // gets its hours back.
+        auto form = newForm();
+        auto *allDay = field<QCheckBox>(*form, "allDay");
         allDay->setChecked(true);
-        QCOMPARE(field<QDateEdit>(form, "endDate")->date(), QDate(2024, 1, 9));
-        Event edited = form.editedEvent();
-        QCOMPARE(edited.start_time, QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc()));
-        QCOMPARE(*edited.end_time, QDateTime(QDate(2024, 1, 10), QTime(0, 0), QTimeZone::utc()));
+        QCOMPARE(field<QDateEdit>(*form, "endDate")->date(), QDate(2024, 1, 9));
+        Event edited = form->editedEvent();
+        QCOMPARE(edited.start_time, utcDay(9));
+        QCOMPARE(*edited.end_time, utcDay(10));
         QCOMPARE(edited.timezone, QStringLiteral("UTC"));
         allDay->setChecked(false);
-        edited = form.editedEvent();
+        edited = form->editedEvent();
         QCOMPARE(edited.start_time, at(9, 10));
         QCOMPARE(*edited.end_time, at(9, 11));
         QCOMPARE(edited.timezone, QStringLiteral("Europe/Berlin"));
     }
-    {
-        // A timed event ending at midnight becomes a one-day event, not two.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 20), at(10, 0), false);
-        field<QCheckBox>(form, "allDay")->setChecked(true);
-        QCOMPARE(*form.editedEvent().end_time, QDateTime(QDate(2024, 1, 10), QTime(0, 0), QTimeZone::utc()));
-    }
+    // A timed event ending at midnight becomes a one-day event, not two.
+    auto form = newForm(at(9, 20), at(10, 0));
+    field<QCheckBox>(*form, "allDay")->setChecked(true);
+    QCOMPARE(*form->editedEvent().end_time, utcDay(10));
 }
 
 void TestEventForm::endFollowsStart_data()
@@ -615,9 +553,7 @@ void TestEventForm::endFollowsStart_data()
         << QDateTime(QDate(2024, 3, 31), QTime(4, 0), kBerlin) << QDate(2024, 3, 30) << QTime(23, 0)
         << QDateTime(QDate(2024, 3, 31), QTime(5, 0), kBerlin);
     QTest::newRow("all-day over three days")
-        << true << QDateTime(QDate(2024, 1, 9), QTime(0, 0), QTimeZone::utc())
-        << QDateTime(QDate(2024, 1, 12), QTime(0, 0), QTimeZone::utc()) << QDate(2024, 1, 15) << QTime()
-        << QDateTime(QDate(2024, 1, 18), QTime(0, 0), QTimeZone::utc());
+        << true << utcDay(9) << utcDay(12) << QDate(2024, 1, 15) << QTime() << utcDay(18);
 }
 
 void TestEventForm::endFollowsStart()
@@ -627,43 +563,38 @@ void TestEventForm::endFollowsStart()
     QFETCH(QDateTime, end);
     QFETCH(QDate, newDate);
     QFETCH(QTime, newTime);
-    QFETCH(QDateTime, expectedEnd);
 
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(start, end, allDay);
-    form.show();
-    field<QDateEdit>(form, "startDate")->setDate(newDate);
+    auto form = newForm(start, end, allDay);
+    field<QDateEdit>(*form, "startDate")->setDate(newDate);
     if (newTime.isValid())
-        field<QTimeEdit>(form, "startTime")->setTime(newTime);
-    const Event edited = form.editedEvent();
+        field<QTimeEdit>(*form, "startTime")->setTime(newTime);
+    const Event edited = form->editedEvent();
     QCOMPARE(edited.start_time.date(), newDate);
-    QCOMPARE(*edited.end_time, expectedEnd);
-    QVERIFY(field<QPushButton>(form, "saveButton")->isEnabled());
+    QTEST(*edited.end_time, "expectedEnd");
+    QVERIFY(field<QPushButton>(*form, "saveButton")->isEnabled());
 }
 
 void TestEventForm::endBeforeStartBlocksSave()
 {
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(at(9, 10), at(9, 11), false);
-    form.show();
-    field<QTimeEdit>(form, "endTime")->setTime(QTime(9, 30));
-    auto *error = field<QLabel>(form, "timeHint");
-    QVERIFY(error->isVisibleTo(&form));
+    auto form = newForm();
+    field<QTimeEdit>(*form, "endTime")->setTime(QTime(9, 30));
+    auto *error = field<QLabel>(*form, "timeHint");
+    QVERIFY(error->isVisibleTo(form.get()));
     QVERIFY(error->property("error").toBool());
     QCOMPARE(error->text(), QStringLiteral("The event ends before it starts."));
-    QVERIFY(!field<QPushButton>(form, "saveButton")->isEnabled());
-    QVERIFY(!form.save());
+    QVERIFY(!field<QPushButton>(*form, "saveButton")->isEnabled());
+    QVERIFY(!form->save());
     QVERIFY(m_state->events()->getByCalendar(AppState::kLocalCalendarId).isEmpty());
 
     // Moving the end to the next day makes it a valid overnight event.
-    field<QDateEdit>(form, "endDate")->setDate(QDate(2024, 1, 10));
-    QVERIFY(!error->isVisibleTo(&form));
-    QCOMPARE(*form.editedEvent().end_time, at(10, 9, 30));
+    field<QDateEdit>(*form, "endDate")->setDate(QDate(2024, 1, 10));
+    QVERIFY(!error->isVisibleTo(form.get()));
+    QCOMPARE(*form->editedEvent().end_time, at(10, 9, 30));
 
     // An all-day event's last day before its first is refused the same way.
-    field<QCheckBox>(form, "allDay")->setChecked(true);
-    field<QDateEdit>(form, "endDate")->setDate(QDate(2024, 1, 8));
-    QVERIFY(!field<QPushButton>(form, "saveButton")->isEnabled());
+    field<QCheckBox>(*form, "allDay")->setChecked(true);
+    field<QDateEdit>(*form, "endDate")->setDate(QDate(2024, 1, 8));
+    QVERIFY(!field<QPushButton>(*form, "saveButton")->isEnabled());
 }
 
 void TestEventForm::calendarPreselection_data()
@@ -672,21 +603,13 @@ void TestEventForm::calendarPreselection_data()
     QTest::addColumn<QString>("defaultId");
     QTest::addColumn<QString>("expected");
 
-    const QString personal = AppState::kLocalCalendarId;
-    QTest::newRow("preference names a writable calendar") << "work"
-                                                          << "team"
-                                                          << "work";
-    QTest::newRow("preference names a read-only calendar") << "holidays"
-                                                           << "team"
-                                                           << "team";
-    QTest::newRow("preference names no calendar") << "gone"
-                                                  << "team"
-                                                  << "team";
-    QTest::newRow("no preference") << ""
-                                   << "team"
-                                   << "team";
-    QTest::newRow("default calendar is read-only") << ""
-                                                   << "holidays" << personal;
+    const auto row = [](const char *name, const char *preference, const char *defaultId, const QString &expected) {
+        QTest::newRow(name) << QString::fromLatin1(preference) << QString::fromLatin1(defaultId) << expected;
+    };
+    row("preference names a writable calendar", "work", "team", QStringLiteral("work"));
+    row("preference names a read-only calendar", "holidays", "team", QStringLiteral("team"));
+    row("preference names no calendar", "gone", "team", QStringLiteral("team"));
+    row("default calendar is read-only", "", "holidays", AppState::kLocalCalendarId);
 }
 
 void TestEventForm::calendarPreselection()
@@ -695,178 +618,135 @@ void TestEventForm::calendarPreselection()
     QFETCH(QString, defaultId);
     QFETCH(QString, expected);
 
-    const auto addCalendar = [this](const QString &id, const QString &name, int order, bool readOnly) {
+    const auto addCalendar = [this](const QString &id, int order, bool readOnly) {
         Calendar calendar;
         calendar.id = id;
         calendar.account_id = AppState::kLocalAccountId;
         calendar.url = QStringLiteral("local://calendar/") + id;
-        calendar.name = name;
+        calendar.name = id;
         calendar.sort_order = order;
         calendar.is_read_only = readOnly;
         QVERIFY(m_state->calendars()->insert(calendar));
     };
-    addCalendar(QStringLiteral("holidays"), QStringLiteral("Holidays"), 5, true);
-    addCalendar(QStringLiteral("work"), QStringLiteral("Work"), 10, false);
-    addCalendar(QStringLiteral("team"), QStringLiteral("Team"), 20, false);
+    addCalendar(QStringLiteral("holidays"), 5, true);
+    addCalendar(QStringLiteral("work"), 10, false);
+    addCalendar(QStringLiteral("team"), 20, false);
     QVERIFY(m_state->calendars()->setDefault(defaultId));
     if (!preference.isEmpty())
         m_state->preferences()->setValue(QStringLiteral("ui/defaultCalendarId"), preference);
 
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(at(9, 10), at(9, 11), false);
-    auto *calendar = field<QComboBox>(form, "calendar");
+    auto form = newForm();
+    auto *calendar = field<QComboBox>(*form, "calendar");
     QCOMPARE(calendar->currentData().toString(), expected);
     QStringList offered;
     for (int i = 0; i < calendar->count(); ++i)
         offered.append(calendar->itemData(i).toString());
     offered.sort();
     QCOMPARE(offered, (QStringList{AppState::kLocalCalendarId, QStringLiteral("team"), QStringLiteral("work")}));
-    QCOMPARE(form.editedEvent().calendar_id, expected);
+    QCOMPARE(form->editedEvent().calendar_id, expected);
 }
 
-void TestEventForm::reminderPresets_data()
-{
-    QTest::addColumn<int>("minutes");
-    QTest::addColumn<QString>("label");
-    QTest::newRow("at the start") << 0 << "At time of event";
-    QTest::newRow("5 minutes") << 5 << "5 min before";
-    QTest::newRow("10 minutes") << 10 << "10 min before";
-    QTest::newRow("30 minutes") << 30 << "30 min before";
-    QTest::newRow("1 hour") << 60 << "1 hour(s) before";
-    QTest::newRow("1 day") << 1440 << "1 day(s) before";
-}
-
-void TestEventForm::reminderPresets()
-{
-    QFETCH(int, minutes);
-    QFETCH(QString, label);
-
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(at(9, 10), at(9, 11), false);
-    form.show();
-    auto *menu = field<QMenu>(form, "addReminderMenu");
-    emit menu->aboutToShow();
-    QAction *offered = nullptr;
-    for (QAction *action : menu->actions()) {
-        if (action->text() == label)
-            offered = action;
-        // The default reminder is already there and is not offered twice.
-        if (action->text() == QLatin1String("15 min before"))
-            QVERIFY(!action->isEnabled());
-    }
-    QVERIFY(offered);
-    QVERIFY(offered->isEnabled());
-    offered->trigger();
-
-    QStringList shown;
-    for (QLabel *row : form.findChildren<QLabel *>(QStringLiteral("reminderLabel")))
-        shown.append(row->text());
-    QVERIFY(shown.contains(label));
-    QVERIFY(shown.contains(QStringLiteral("15 min before")));
-    QCOMPARE(shown.size(), 2);
-
-    field<QLineEdit>(form, "titleEdit")->setText(QStringLiteral("Flight"));
-    QVERIFY(form.save());
-    QList<int> stored;
-    const Event saved = m_state->events()->getById(form.savedEvent().id).value();
-    for (const Reminder &reminder : saved.reminders)
-        stored.append(reminder.minutes_before);
-    std::sort(stored.begin(), stored.end());
-    QList<int> expected{15, minutes};
-    std::sort(expected.begin(), expected.end());
-    QCOMPARE(stored, expected);
-}
-
-void TestEventForm::newEventReminders()
+void TestEventForm::reminders()
 {
     {
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 10), at(9, 11), false);
-        form.show();
-        QCOMPARE(form.editedEvent().reminders.size(), 1);
-        QCOMPARE(form.editedEvent().reminders.first().minutes_before, 15);
+        // A new event starts with 15 minutes; the menu does not offer that one
+        // twice.
+        auto form = newForm();
+        QCOMPARE(form->editedEvent().reminders.size(), 1);
+        QCOMPARE(form->editedEvent().reminders.first().minutes_before, 15);
+        auto *menu = field<QMenu>(*form, "addReminderMenu");
+        emit menu->aboutToShow();
+        QAction *dayBefore = nullptr;
+        for (QAction *action : menu->actions()) {
+            if (action->text() == QLatin1String("1 day(s) before"))
+                dayBefore = action;
+            if (action->text() == QLatin1String("15 min before"))
+                QVERIFY(!action->isEnabled());
+        }
+        QVERIFY(dayBefore && dayBefore->isEnabled());
+        dayBefore->trigger();
+        QStringList shown;
+        for (QLabel *row : form->findChildren<QLabel *>(QStringLiteral("reminderLabel")))
+            shown.append(row->text());
+        shown.sort();
+        QCOMPARE(shown, (QStringList{"1 day(s) before", "15 min before"}));
+        field<QLineEdit>(*form, "titleEdit")->setText(QStringLiteral("Flight"));
+        QVERIFY(form->save());
+        QList<int> stored;
+        const Event saved = m_state->events()->getById(form->savedEvent().id).value();
+        for (const Reminder &reminder : saved.reminders)
+            stored.append(reminder.minutes_before);
+        std::sort(stored.begin(), stored.end());
+        QCOMPARE(stored, (QList<int>{15, 1440}));
+    }
+    {
         // Removing the only reminder leaves none.
-        form.findChild<QToolButton *>(QStringLiteral("removeReminder"))->click();
-        QVERIFY(form.editedEvent().reminders.isEmpty());
-        QVERIFY(form.findChildren<QLabel *>(QStringLiteral("reminderLabel")).isEmpty());
+        auto form = newForm();
+        form->findChild<QToolButton *>(QStringLiteral("removeReminder"))->click();
+        QVERIFY(form->editedEvent().reminders.isEmpty());
+        QVERIFY(form->findChildren<QLabel *>(QStringLiteral("reminderLabel")).isEmpty());
     }
-    {
-        // A template brings its own reminders, duration, place and repeat.
-        Template preset;
-        preset.name = QStringLiteral("1:1");
-        preset.title = QStringLiteral("One-on-one");
-        preset.location = QStringLiteral("Small meeting room");
-        preset.duration_minutes = 30;
-        preset.recurrence_rule = QStringLiteral("FREQ=WEEKLY");
-        preset.reminders = {10, 60};
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 10), at(9, 11), false);
-        form.applyTemplate(preset);
-        const Event edited = form.editedEvent();
-        QCOMPARE(edited.title, QStringLiteral("One-on-one"));
-        QCOMPARE(edited.location, QStringLiteral("Small meeting room"));
-        QCOMPARE(*edited.end_time, at(9, 10, 30));
-        QCOMPARE(edited.recurrence_rule, QStringLiteral("FREQ=WEEKLY"));
-        QList<int> minutes;
-        for (const Reminder &reminder : edited.reminders)
-            minutes.append(reminder.minutes_before);
-        QCOMPARE(minutes, (QList<int>{10, 60}));
-    }
+    // A template brings its own reminders, duration, place and repeat.
+    Template preset;
+    preset.name = QStringLiteral("1:1");
+    preset.title = QStringLiteral("One-on-one");
+    preset.location = QStringLiteral("Small meeting room");
+    preset.duration_minutes = 30;
+    preset.recurrence_rule = QStringLiteral("FREQ=WEEKLY");
+    preset.reminders = {10, 60};
+    auto form = newForm();
+    form->applyTemplate(preset);
+    const Event edited = form->editedEvent();
+    QCOMPARE(edited.title, QStringLiteral("One-on-one"));
+    QCOMPARE(edited.location, QStringLiteral("Small meeting room"));
+    QCOMPARE(*edited.end_time, at(9, 10, 30));
+    QCOMPARE(edited.recurrence_rule, QStringLiteral("FREQ=WEEKLY"));
+    QList<int> minutes;
+    for (const Reminder &reminder : edited.reminders)
+        minutes.append(reminder.minutes_before);
+    QCOMPARE(minutes, (QList<int>{10, 60}));
 }
 
 void TestEventForm::emptyTitle()
 {
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setNewEvent(at(9, 10), at(9, 11), false);
-    form.show();
-    field<QLineEdit>(form, "titleEdit")->setText(QStringLiteral("   "));
-    QVERIFY(field<QPushButton>(form, "saveButton")->isEnabled());
-    QVERIFY(form.save());
-    QCOMPARE(m_state->events()->getById(form.savedEvent().id)->title, QStringLiteral("(No title)"));
+    auto form = newForm();
+    field<QLineEdit>(*form, "titleEdit")->setText(QStringLiteral("   "));
+    QVERIFY(field<QPushButton>(*form, "saveButton")->isEnabled());
+    QVERIFY(form->save());
+    QCOMPARE(m_state->events()->getById(form->savedEvent().id)->title, QStringLiteral("(No title)"));
 }
 
 void TestEventForm::timeZones()
 {
-    {
-        // New events are in the system's zone.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 10), at(9, 11), false);
-        QCOMPARE(form.findChild<QComboBox *>(QStringLiteral("timeZone"))->currentText(),
-                 QStringLiteral("Europe/Berlin"));
-        QCOMPARE(form.editedEvent().timezone, QStringLiteral("Europe/Berlin"));
-    }
+    // New events are in the system's zone.
+    QCOMPARE(field<QComboBox>(*newForm(), "timeZone")->currentText(), QStringLiteral("Europe/Berlin"));
+    QCOMPARE(newForm()->editedEvent().timezone, QStringLiteral("Europe/Berlin"));
 
-    Event call;
-    call.title = QStringLiteral("Standup with Toronto");
-    call.timezone = QStringLiteral("America/New_York");
-    call.start_time = QDateTime(QDate(2024, 1, 10), QTime(9, 0), QTimeZone("America/New_York"));
-    call.end_time = call.start_time.addSecs(1800);
-    const Event stored = store(call);
-
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(stored);
-    form.show();
+    const QTimeZone newYork("America/New_York");
+    const QDateTime nine(QDate(2024, 1, 10), QTime(9, 0), newYork);
+    auto form = formFor(store(
+        timed(QStringLiteral("Standup with Toronto"), nine, nine.addSecs(1800), QStringLiteral("America/New_York"))));
     // Shown in the event's own zone, with the local time beside it.
-    QCOMPARE(field<QTimeEdit>(form, "startTime")->time(), QTime(9, 0));
-    QCOMPARE(field<QTimeEdit>(form, "endTime")->time(), QTime(9, 30));
-    auto *localHint = field<QLabel>(form, "timeHint");
-    QVERIFY(localHint->isVisibleTo(&form));
+    QCOMPARE(field<QTimeEdit>(*form, "startTime")->time(), QTime(9, 0));
+    QCOMPARE(field<QTimeEdit>(*form, "endTime")->time(), QTime(9, 30));
+    auto *localHint = field<QLabel>(*form, "timeHint");
+    QVERIFY(localHint->isVisibleTo(form.get()));
     QVERIFY(!localHint->property("error").toBool());
     QCOMPARE(localHint->text(), QStringLiteral("Wednesday, January 10 · 15:00 – 15:30 in your time zone"));
 
     // Another zone keeps the wall-clock times.
-    auto *zone = field<QComboBox>(form, "timeZone");
+    auto *zone = field<QComboBox>(*form, "timeZone");
     zone->setEditText(QStringLiteral("Asia/Tokyo"));
-    Event edited = form.editedEvent();
+    const Event edited = form->editedEvent();
     QCOMPARE(edited.timezone, QStringLiteral("Asia/Tokyo"));
     QCOMPARE(edited.start_time, QDateTime(QDate(2024, 1, 10), QTime(9, 0), QTimeZone("Asia/Tokyo")));
 
     zone->setEditText(QStringLiteral("Mars/Olympus_Mons"));
-    QVERIFY(!field<QPushButton>(form, "saveButton")->isEnabled());
+    QVERIFY(!field<QPushButton>(*form, "saveButton")->isEnabled());
     QCOMPARE(localHint->text(), QStringLiteral("\"Mars/Olympus_Mons\" is not a time zone this computer knows."));
     QVERIFY(localHint->property("error").toBool());
     zone->setEditText(QStringLiteral("Europe/Lisbon"));
-    QVERIFY(field<QPushButton>(form, "saveButton")->isEnabled());
+    QVERIFY(field<QPushButton>(*form, "saveButton")->isEnabled());
     QVERIFY(!localHint->property("error").toBool());
 }
 
@@ -879,23 +759,18 @@ void TestEventForm::readOnlyCalendarOpensReadOnly()
     holidays.name = QStringLiteral("Holidays");
     holidays.is_read_only = true;
     QVERIFY(m_state->calendars()->insert(holidays));
-    Event event;
+    Event event = timed(QStringLiteral("New Year's Day"), utcDay(1), utcDay(2));
     event.calendar_id = holidays.id;
-    event.title = QStringLiteral("New Year's Day");
     event.is_all_day = true;
-    event.start_time = QDateTime(QDate(2024, 1, 1), QTime(0, 0), QTimeZone::utc());
-    event.end_time = event.start_time.addDays(1);
     const Event stored = store(event);
 
-    EventFormDialog form(m_state.get(), m_editor.get());
-    form.setEvent(stored);
-    form.show();
-    QVERIFY(!field<QPushButton>(form, "saveButton")->isVisible());
-    QVERIFY(!field<QLineEdit>(form, "titleEdit")->isEnabled());
-    QVERIFY(field<QPlainTextEdit>(form, "description")->isReadOnly());
-    QVERIFY(field<QLabel>(form, "readOnlyBanner")->isVisible());
-    QCOMPARE(field<QComboBox>(form, "calendar")->currentText(), QStringLiteral("Holidays"));
-    QVERIFY(!form.save());
+    auto form = formFor(stored);
+    QVERIFY(!field<QPushButton>(*form, "saveButton")->isVisible());
+    QVERIFY(!field<QLineEdit>(*form, "titleEdit")->isEnabled());
+    QVERIFY(field<QPlainTextEdit>(*form, "description")->isReadOnly());
+    QVERIFY(field<QLabel>(*form, "readOnlyBanner")->isVisible());
+    QCOMPARE(field<QComboBox>(*form, "calendar")->currentText(), QStringLiteral("Holidays"));
+    QVERIFY(!form->save());
     QCOMPARE(m_state->events()->getById(stored.id).value(), stored);
 }
 
@@ -903,46 +778,39 @@ void TestEventForm::keyboard()
 {
     {
         // Enter in the title saves.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(9, 10), at(9, 11), false);
-        form.show();
-        auto *title = field<QLineEdit>(form, "titleEdit");
+        auto form = newForm();
+        auto *title = field<QLineEdit>(*form, "titleEdit");
         QTest::keyClicks(title, QStringLiteral("Coffee with Ana"));
         QTest::keyClick(title, Qt::Key_Return);
-        QCOMPARE(form.result(), int(QDialog::Accepted));
-        QCOMPARE(m_state->events()->getById(form.savedEvent().id)->title, QStringLiteral("Coffee with Ana"));
+        QCOMPARE(form->result(), int(QDialog::Accepted));
+        QCOMPARE(m_state->events()->getById(form->savedEvent().id)->title, QStringLiteral("Coffee with Ana"));
     }
     {
-        // So does Enter in the (editable) time zone box, and Ctrl+Enter in the description, while
-        // a plain Enter there starts a new line.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(10, 10), at(10, 11), false);
-        form.show();
-        auto *description = field<QPlainTextEdit>(form, "description");
+        // So does Ctrl+Enter in the description, while a plain Enter there starts a
+        // new line.
+        auto form = newForm(at(10, 10), at(10, 11));
+        auto *description = field<QPlainTextEdit>(*form, "description");
         QTest::keyClicks(description, QStringLiteral("line one"));
         QTest::keyClick(description, Qt::Key_Return);
         QTest::keyClicks(description, QStringLiteral("line two"));
-        QCOMPARE(form.result(), int(QDialog::Rejected));
-        QCOMPARE(description->toPlainText(), QStringLiteral("line one\nline two"));
+        QCOMPARE(form->result(), int(QDialog::Rejected));
         QTest::keyClick(description, Qt::Key_Return, Qt::ControlModifier);
-        QCOMPARE(form.result(), int(QDialog::Accepted));
-        QCOMPARE(m_state->events()->getById(form.savedEvent().id)->description, QStringLiteral("line one\nline two"));
-
-        EventFormDialog zoneForm(m_state.get(), m_editor.get());
-        zoneForm.setNewEvent(at(11, 10), at(11, 11), false);
-        zoneForm.show();
-        QTest::keyClick(field<QComboBox>(zoneForm, "timeZone"), Qt::Key_Return);
-        QCOMPARE(zoneForm.result(), int(QDialog::Accepted));
+        QCOMPARE(form->result(), int(QDialog::Accepted));
+        QCOMPARE(m_state->events()->getById(form->savedEvent().id)->description, QStringLiteral("line one\nline two"));
+    }
+    {
+        // And Enter in the (editable) time zone box.
+        auto form = newForm(at(11, 10), at(11, 11));
+        QTest::keyClick(field<QComboBox>(*form, "timeZone"), Qt::Key_Return);
+        QCOMPARE(form->result(), int(QDialog::Accepted));
     }
     {
         // Escape cancels without writing.
-        EventFormDialog form(m_state.get(), m_editor.get());
-        form.setNewEvent(at(12, 10), at(12, 11), false);
-        form.show();
-        QTest::keyClicks(field<QLineEdit>(form, "titleEdit"), QStringLiteral("Never mind"));
-        QTest::keyClick(field<QLineEdit>(form, "titleEdit"), Qt::Key_Escape);
-        QCOMPARE(form.result(), int(QDialog::Rejected));
-        QVERIFY(form.isHidden());
+        auto form = newForm(at(12, 10), at(12, 11));
+        QTest::keyClicks(field<QLineEdit>(*form, "titleEdit"), QStringLiteral("Never mind"));
+        QTest::keyClick(field<QLineEdit>(*form, "titleEdit"), Qt::Key_Escape);
+        QCOMPARE(form->result(), int(QDialog::Rejected));
+        QVERIFY(form->isHidden());
     }
     QCOMPARE(m_state->events()->getByCalendar(AppState::kLocalCalendarId).size(), 3);
 }
