@@ -26,6 +26,11 @@ QDateTime local(const QDate &date, int hour, int minute = 0)
     return QDateTime(date, QTime(hour, minute), kBerlin);
 }
 
+QDateTime utcMidnight(const QDate &date)
+{
+    return QDateTime(date, QTime(0, 0), QTimeZone::utc());
+}
+
 // Channel distance of two colours.
 int distance(const QColor &a, const QColor &b)
 {
@@ -58,9 +63,7 @@ private slots:
     void chipsOverflowIntoMore();
     void barAcrossWeekBoundary();
     void cellOrder();
-    void moreOpensTheDay();
-    void dayNumberOpensTheDay();
-    void doubleClickAsksForAnAllDayEvent();
+    void clicksOpenDaysAndAskForEvents();
     void dragMovesToAnotherDay();
     void dragMovesAnAllDayEvent();
     void readOnlyEventsStayPut();
@@ -70,7 +73,8 @@ private slots:
     void firstDayOfWeekFollowsThePreference();
 
 private:
-    Event add(const QString &title, const QDateTime &start, const QDateTime &end, const QString &color = {});
+    Event add(const QString &title, const QDateTime &start, const QDateTime &end, const QString &color = {},
+              bool allDay = false);
     Event addAllDay(const QString &title, const QDate &first, int days, const QString &color = {});
     void addRule(const QString &title, const QString &action);
     // Shows March 2024, Monday first, once pending changes have reached the cache.
@@ -111,14 +115,16 @@ void TestMonthView::cleanup()
     Clock::setFixedNow(QDateTime());
 }
 
-Event TestMonthView::add(const QString &title, const QDateTime &start, const QDateTime &end, const QString &color)
+Event TestMonthView::add(const QString &title, const QDateTime &start, const QDateTime &end, const QString &color,
+                         bool allDay)
 {
     Event draft;
     draft.calendar_id = AppState::kLocalCalendarId;
     draft.title = title;
     draft.start_time = start;
     draft.end_time = end;
-    draft.timezone = QStringLiteral("Europe/Berlin");
+    draft.is_all_day = allDay;
+    draft.timezone = allDay ? QString() : QStringLiteral("Europe/Berlin");
     draft.color = color;
     m_changed = true;
     return m_editor->create(draft).value_or(Event());
@@ -126,15 +132,7 @@ Event TestMonthView::add(const QString &title, const QDateTime &start, const QDa
 
 Event TestMonthView::addAllDay(const QString &title, const QDate &first, int days, const QString &color)
 {
-    Event draft;
-    draft.calendar_id = AppState::kLocalCalendarId;
-    draft.title = title;
-    draft.is_all_day = true;
-    draft.start_time = QDateTime(first, QTime(0, 0), QTimeZone::utc());
-    draft.end_time = QDateTime(first.addDays(days), QTime(0, 0), QTimeZone::utc());
-    draft.color = color;
-    m_changed = true;
-    return m_editor->create(draft).value_or(Event());
+    return add(title, utcMidnight(first), utcMidnight(first.addDays(days)), color, true);
 }
 
 void TestMonthView::addRule(const QString &title, const QString &action)
@@ -185,14 +183,11 @@ void TestMonthView::gridFor_data()
 
     // Monday first: a month starting on the first, a middle and the last day of the week.
     QTest::newRow("starts Monday") << QDate(2024, 1, 17) << int(Qt::Monday) << QDate(2024, 1, 1);
-    QTest::newRow("starts Friday") << QDate(2024, 3, 31) << int(Qt::Monday) << QDate(2024, 2, 26);
     QTest::newRow("starts Sunday") << QDate(2024, 9, 1) << int(Qt::Monday) << QDate(2024, 8, 26);
     // Sunday first.
-    QTest::newRow("Sunday first, starts Sunday") << QDate(2024, 9, 20) << int(Qt::Sunday) << QDate(2024, 9, 1);
     QTest::newRow("Sunday first, starts Saturday") << QDate(2024, 6, 1) << int(Qt::Sunday) << QDate(2024, 5, 26);
     QTest::newRow("Saturday first") << QDate(2024, 3, 5) << int(Qt::Saturday) << QDate(2024, 2, 24);
-    // February of a leap year, and a February that fills exactly four weeks.
-    QTest::newRow("leap February") << QDate(2024, 2, 29) << int(Qt::Monday) << QDate(2024, 1, 29);
+    // A February that fills exactly four weeks.
     QTest::newRow("four-week February") << QDate(2015, 2, 14) << int(Qt::Sunday) << QDate(2015, 2, 1);
     QTest::newRow("year boundary") << QDate(2025, 1, 1) << int(Qt::Monday) << QDate(2024, 12, 30);
 }
@@ -219,53 +214,34 @@ void TestMonthView::coveredDays_data()
     QTest::addColumn<QDate>("last");
     QTest::addColumn<bool>("bar");
 
+    const auto event = [](const QDateTime &start, const QDateTime &end, bool allDay) {
+        Event occurrence;
+        occurrence.is_all_day = allDay;
+        occurrence.start_time = start;
+        if (end.isValid())
+            occurrence.end_time = end;
+        return occurrence;
+    };
     const QDate day(2024, 3, 13);
-    Event timed;
-    timed.start_time = local(day, 9, 30);
-    timed.end_time = local(day, 10, 30);
-    QTest::newRow("timed") << timed << day << day << false;
-
-    Event toMidnight = timed;
-    toMidnight.end_time = local(day.addDays(1), 0);
-    QTest::newRow("timed until midnight") << toMidnight << day << day << false;
-
-    Event overnight = timed;
-    overnight.start_time = local(day, 22);
-    overnight.end_time = local(day.addDays(1), 2);
-    QTest::newRow("overnight, shorter than a day") << overnight << day << day.addDays(1) << false;
-
-    Event long_ = timed;
-    long_.end_time = local(day.addDays(2), 9);
-    QTest::newRow("timed over three dates") << long_ << day << day.addDays(2) << true;
-
-    Event noEnd = timed;
-    noEnd.end_time.reset();
-    QTest::newRow("no end") << noEnd << day << day << false;
-
-    Event allDay;
-    allDay.is_all_day = true;
-    allDay.start_time = QDateTime(day, QTime(0, 0), QTimeZone::utc());
-    allDay.end_time = QDateTime(day.addDays(1), QTime(0, 0), QTimeZone::utc());
-    QTest::newRow("all day") << allDay << day << day << true;
-
-    Event allDays = allDay;
-    allDays.end_time = QDateTime(day.addDays(4), QTime(0, 0), QTimeZone::utc());
-    QTest::newRow("four all days") << allDays << day << day.addDays(3) << true;
-
+    const QDate next = day.addDays(1);
+    const QDateTime morning = local(day, 9, 30);
+    QTest::newRow("timed") << event(morning, local(day, 10, 30), false) << day << day << false;
+    QTest::newRow("timed until midnight") << event(morning, local(next, 0), false) << day << day << false;
+    QTest::newRow("overnight, shorter than a day")
+        << event(local(day, 22), local(next, 2), false) << day << next << false;
+    QTest::newRow("timed over three dates")
+        << event(morning, local(day.addDays(2), 9), false) << day << day.addDays(2) << true;
+    QTest::newRow("no end") << event(morning, {}, false) << day << day << false;
+    QTest::newRow("all day") << event(utcMidnight(day), utcMidnight(next), true) << day << day << true;
+    const QDateTime fourDaysEnd = utcMidnight(day.addDays(4));
+    QTest::newRow("four all days") << event(utcMidnight(day), fourDaysEnd, true) << day << day.addDays(3) << true;
     // The same days seen through the event's zone, where midnight UTC is 01:00.
-    Event inZone = allDays;
-    inZone.start_time = allDays.start_time.toTimeZone(kBerlin);
-    inZone.end_time = allDays.end_time->toTimeZone(kBerlin);
-    QTest::newRow("all days shown in their zone") << inZone << day << day.addDays(3) << true;
-
-    Event localMidnights = allDay;
-    localMidnights.start_time = local(day, 0);
-    localMidnights.end_time = local(day.addDays(2), 0);
-    QTest::newRow("all days at local midnights") << localMidnights << day << day.addDays(1) << true;
-
-    Event allDayNoEnd = allDay;
-    allDayNoEnd.end_time.reset();
-    QTest::newRow("all day without end") << allDayNoEnd << day << day << true;
+    QTest::newRow("all days shown in their zone")
+        << event(utcMidnight(day).toTimeZone(kBerlin), fourDaysEnd.toTimeZone(kBerlin), true) << day << day.addDays(3)
+        << true;
+    QTest::newRow("all days at local midnights")
+        << event(local(day, 0), local(day.addDays(2), 0), true) << day << next << true;
+    QTest::newRow("all day without end") << event(utcMidnight(day), {}, true) << day << day << true;
 }
 
 void TestMonthView::coveredDays()
@@ -287,11 +263,10 @@ void TestMonthView::shiftAllDay_data()
     QTest::addColumn<int>("days");
     QTest::addColumn<QDateTime>("expected");
 
-    const QDateTime utcMidnight(QDate(2024, 3, 28), QTime(0, 0), QTimeZone::utc());
+    const QDateTime midnight = utcMidnight(QDate(2024, 3, 28));
     // Summer time starts in Berlin on 31 March; midnights stay midnights.
-    QTest::newRow("UTC midnight") << utcMidnight << 5 << QDateTime(QDate(2024, 4, 2), QTime(0, 0), QTimeZone::utc());
-    QTest::newRow("UTC midnight seen in Berlin")
-        << utcMidnight.toTimeZone(kBerlin) << 5 << QDateTime(QDate(2024, 4, 2), QTime(0, 0), QTimeZone::utc());
+    QTest::newRow("UTC midnight") << midnight << 5 << utcMidnight(QDate(2024, 4, 2));
+    QTest::newRow("UTC midnight seen in Berlin") << midnight.toTimeZone(kBerlin) << 5 << utcMidnight(QDate(2024, 4, 2));
     QTest::newRow("Berlin midnight") << local(QDate(2024, 3, 28), 0) << 5 << local(QDate(2024, 4, 2), 0);
     QTest::newRow("backwards") << local(QDate(2024, 4, 2), 0) << -5 << local(QDate(2024, 3, 28), 0);
 }
@@ -397,48 +372,39 @@ void TestMonthView::cellOrder()
     QVERIFY(m_view->eventRect(next.id, day.addDays(1)).top() > m_view->eventRect(multiDay.id, day.addDays(1)).top());
 }
 
-void TestMonthView::moreOpensTheDay()
+void TestMonthView::clicksOpenDaysAndAskForEvents()
 {
-    const QDate day(2024, 3, 12);
+    const QDate crowded(2024, 3, 12);
     for (int hour = 8; hour < 18; ++hour)
-        add(QStringLiteral("Meeting %1").arg(hour), local(day, hour), local(day, hour, 30));
-    showMarch();
-    QSignalSpy opened(m_view.get(), &MonthView::dayOpened);
-    const QRect more = m_view->moreRect(day);
-    QVERIFY(more.isValid());
-    QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, more.center());
-    QCOMPARE(opened.size(), 1);
-    QCOMPARE(opened.at(0).at(0).toDate(), day);
-}
-
-void TestMonthView::dayNumberOpensTheDay()
-{
+        add(QStringLiteral("Meeting %1").arg(hour), local(crowded, hour), local(crowded, hour, 30));
     showMarch();
     QSignalSpy opened(m_view.get(), &MonthView::dayOpened);
     QSignalSpy created(m_view.get(), &MonthView::createRequested);
-    // A day of the previous month shown in the grid opens too.
-    for (const QDate &day : {QDate(2024, 3, 1), QDate(2024, 2, 27), QDate(2024, 3, 13)}) {
-        QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, m_view->dayNumberRect(day).center());
-        QCOMPARE(opened.size(), 1);
-        QCOMPARE(opened.takeFirst().at(0).toDate(), day);
-    }
-    // A click on empty space opens nothing.
-    QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier,
-                      m_view->dayRect(QDate(2024, 3, 14)).center() + QPoint(0, 20));
-    QCOMPARE(opened.size(), 0);
-    QCOMPARE(created.size(), 0);
-}
+    const auto clickAt = [this](const QPoint &pos) {
+        QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, pos);
+    };
 
-void TestMonthView::doubleClickAsksForAnAllDayEvent()
-{
-    showMarch();
-    QSignalSpy created(m_view.get(), &MonthView::createRequested);
+    // "+N more" and the day numbers open the day, also one of the previous month shown in the grid.
+    QVERIFY(m_view->moreRect(crowded).isValid());
+    clickAt(m_view->moreRect(crowded).center());
+    for (const QDate &day : {QDate(2024, 3, 1), QDate(2024, 2, 27)})
+        clickAt(m_view->dayNumberRect(day).center());
+    QCOMPARE(opened.size(), 3);
+    QCOMPARE(opened.at(0).at(0).toDate(), crowded);
+    QCOMPARE(opened.at(1).at(0).toDate(), QDate(2024, 3, 1));
+    QCOMPARE(opened.at(2).at(0).toDate(), QDate(2024, 2, 27));
+
+    // A click on empty space does nothing; a double click there asks for an all-day event.
     const QDate day(2024, 3, 21);
+    clickAt(m_view->dayRect(day).center() + QPoint(0, 20));
+    QCOMPARE(opened.size(), 3);
+    QCOMPARE(created.size(), 0);
     QTest::mouseDClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, m_view->dayRect(day).center() + QPoint(0, 20));
     QCOMPARE(created.size(), 1);
     QCOMPARE(created.at(0).at(0).toDateTime(), QDateTime(day, QTime(0, 0)));
     QCOMPARE(created.at(0).at(1).toDateTime(), QDateTime(day.addDays(1), QTime(0, 0)));
     QCOMPARE(created.at(0).at(2).toBool(), true);
+    QCOMPARE(opened.size(), 3);
 }
 
 void TestMonthView::dragMovesToAnotherDay()
@@ -493,8 +459,8 @@ void TestMonthView::dragMovesAnAllDayEvent()
     const std::optional<Event> moved = m_state->events()->getById(trip.id);
     QVERIFY(moved);
     QVERIFY(moved->is_all_day);
-    QCOMPARE(moved->start_time, QDateTime(QDate(2024, 3, 19), QTime(0, 0), QTimeZone::utc()));
-    QCOMPARE(*moved->end_time, QDateTime(QDate(2024, 3, 21), QTime(0, 0), QTimeZone::utc()));
+    QCOMPARE(moved->start_time, utcMidnight(QDate(2024, 3, 19)));
+    QCOMPARE(*moved->end_time, utcMidnight(QDate(2024, 3, 21)));
 
     // An all-day event of a zone with summer time, dropped across the change: still whole days.
     Event draft;
@@ -502,16 +468,16 @@ void TestMonthView::dragMovesAnAllDayEvent()
     draft.title = QStringLiteral("Visit");
     draft.is_all_day = true;
     draft.timezone = QStringLiteral("Europe/Berlin");
-    draft.start_time = QDateTime(QDate(2024, 3, 27), QTime(0, 0), QTimeZone::utc());
-    draft.end_time = QDateTime(QDate(2024, 3, 28), QTime(0, 0), QTimeZone::utc());
+    draft.start_time = utcMidnight(QDate(2024, 3, 27));
+    draft.end_time = utcMidnight(QDate(2024, 3, 28));
     const Event visit = m_editor->create(draft).value_or(Event());
     settle();
     const QDate target(2024, 4, 3);
     drag(m_view->eventRect(visit.id, QDate(2024, 3, 27)).center(), m_view->dayRect(target).center());
     settle();
     const std::optional<Event> visited = m_state->events()->getById(visit.id);
-    QCOMPARE(visited->start_time, QDateTime(target, QTime(0, 0), QTimeZone::utc()));
-    QCOMPARE(*visited->end_time, QDateTime(target.addDays(1), QTime(0, 0), QTimeZone::utc()));
+    QCOMPARE(visited->start_time, utcMidnight(target));
+    QCOMPARE(*visited->end_time, utcMidnight(target.addDays(1)));
     QVERIFY(m_view->eventRect(visit.id, target).isValid());
     QVERIFY(!m_view->eventRect(visit.id, target.addDays(1)).isValid());
 }
