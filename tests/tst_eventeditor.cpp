@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QTimeZone>
 
+Q_DECLARE_METATYPE(EventEditor::Scope)
+
 namespace {
 
 const QTimeZone kBerlin("Europe/Berlin");
@@ -38,16 +40,12 @@ private slots:
     void moveAndUndo();
     void resizeKeepsStart();
     void remindersFollowTheEvent();
+    void moveInSeries_data();
+    void moveInSeries();
     void moveOneOccurrenceMakesAnOverride();
-    void moveOverrideAgainChangesTheOverride();
-    void moveThisAndFollowingSplitsTheSeries();
-    void moveFirstOccurrenceThisAndFollowingMovesAll();
-    void moveAllEventsShiftsTheMaster();
     void deleteAndUndo();
-    void deleteOneOccurrenceAddsAnException();
-    void deleteOverrideLeavesTheSlotEmpty();
-    void deleteThisAndFollowingEndsTheSeries();
-    void deleteAllEventsTakesOverridesAlong();
+    void deleteInSeries_data();
+    void deleteInSeries();
     void saveToAnotherCalendar();
     void textPatching_data();
     void textPatching();
@@ -57,6 +55,8 @@ private:
     // A daily series at 09:00–10:00 from Monday 8 January 2024.
     Event addDailySeries();
     QList<Event> week() const;
+    // The local start of each occurrence of the week, as "d hh:mm".
+    QStringList weekStarts() const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<AppState> m_state;
@@ -108,6 +108,14 @@ QList<Event> TestEventEditor::week() const
     const QDateTime start = at(8, 0);
     const QDateTime end = start.addDays(7);
     return Recurrence::expandEvents(m_state->events()->getInRange(start.toUTC(), end.toUTC()), start, end);
+}
+
+QStringList TestEventEditor::weekStarts() const
+{
+    QStringList starts;
+    for (const Event &occurrence : week())
+        starts.append(occurrence.start_time.toTimeZone(kBerlin).toString(QStringLiteral("d hh:mm")));
+    return starts;
 }
 
 void TestEventEditor::createMarksPendingAndWritesText()
@@ -191,85 +199,80 @@ void TestEventEditor::remindersFollowTheEvent()
     QCOMPARE(*stored.reminders.first().trigger_time, at(11, 7, 45));
 }
 
+void TestEventEditor::moveInSeries_data()
+{
+    QTest::addColumn<EventEditor::Scope>("scope");
+    QTest::addColumn<int>("index"); // of the occurrence moved, Monday first
+    QTest::addColumn<QDateTime>("to");
+    QTest::addColumn<QStringList>("starts");
+    QTest::addColumn<QString>("masterRule");
+    QTest::addColumn<QDateTime>("masterStart");
+    using Scope = EventEditor::Scope;
+    const QString daily = QStringLiteral("FREQ=DAILY");
+
+    QTest::newRow("this and following: a split")
+        << Scope::ThisAndFollowing << 3 << at(11, 11)
+        << QStringList{"8 09:00", "9 09:00", "10 09:00", "11 11:00", "12 11:00", "13 11:00", "14 11:00"}
+        << QStringLiteral("FREQ=DAILY;UNTIL=20240111T075959Z") << at(8, 9);
+    QTest::newRow("this and following from the first: the whole series")
+        << Scope::ThisAndFollowing << 0 << at(8, 8)
+        << QStringList{"8 08:00", "9 08:00", "10 08:00", "11 08:00", "12 08:00", "13 08:00", "14 08:00"} << daily
+        << at(8, 8);
+    QTest::newRow("all events: the master shifts")
+        << Scope::AllEvents << 4 << at(12, 9, 30)
+        << QStringList{"8 09:30", "9 09:30", "10 09:30", "11 09:30", "12 09:30", "13 09:30", "14 09:30"} << daily
+        << at(8, 9, 30);
+}
+
+void TestEventEditor::moveInSeries()
+{
+    QFETCH(EventEditor::Scope, scope);
+    QFETCH(int, index);
+    QFETCH(QDateTime, to);
+    const Event master = addDailySeries();
+    QVERIFY(EventEditor::isPartOfSeries(week().at(index)));
+    QVERIFY(m_editor->move(week().at(index), to, scope));
+    QTEST(weekStarts(), "starts");
+    const Event moved = m_state->events()->getById(master.id).value();
+    QTEST(moved.recurrence_rule, "masterRule");
+    QTEST(moved.start_time, "masterStart");
+    QCOMPARE(*moved.end_time, moved.start_time.addSecs(3600));
+    // Only a split makes a second row.
+    QCOMPARE(m_state->events()->getByCalendar(AppState::kLocalCalendarId).size(),
+             index > 0 && scope != EventEditor::Scope::AllEvents ? 2 : 1);
+
+    m_state->undoStack()->undo();
+    QCOMPARE(weekStarts(),
+             (QStringList{"8 09:00", "9 09:00", "10 09:00", "11 09:00", "12 09:00", "13 09:00", "14 09:00"}));
+    QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule, QStringLiteral("FREQ=DAILY"));
+    QCOMPARE(m_state->events()->getByCalendar(AppState::kLocalCalendarId).size(), 1);
+}
+
 void TestEventEditor::moveOneOccurrenceMakesAnOverride()
 {
     const Event master = addDailySeries();
-    const QList<Event> before = week();
-    QCOMPARE(before.size(), 7);
-    const Event wednesday = before.at(2);
-    QVERIFY(EventEditor::isPartOfSeries(wednesday));
-    QVERIFY(m_editor->move(wednesday, at(10, 15), EventEditor::Scope::ThisEvent));
-
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 7);
-    QCOMPARE(after.at(2).start_time, at(10, 15));
-    QVERIFY(after.at(2).id != master.id);
-    QCOMPARE(after.at(2).recurrence_id, QStringLiteral("20240110T080000Z"));
-    QCOMPARE(after.at(2).master_event_uid, master.uid);
-    QVERIFY(after.at(2).recurrence_rule.isEmpty());
-    QVERIFY(m_state->events()->getById(after.at(2).id)->raw_icalendar.contains("RECURRENCE-ID:20240110T080000Z\r\n"));
-    QCOMPARE(after.at(3).start_time, at(11, 9));
+    QVERIFY(m_editor->move(week().at(2), at(10, 15), EventEditor::Scope::ThisEvent));
+    const Event override = week().at(2);
+    QCOMPARE(override.start_time, at(10, 15));
+    QVERIFY(override.id != master.id);
+    QCOMPARE(override.recurrence_id, QStringLiteral("20240110T080000Z"));
+    QCOMPARE(override.master_event_uid, master.uid);
+    QVERIFY(override.recurrence_rule.isEmpty());
+    QVERIFY(m_state->events()->getById(override.id)->raw_icalendar.contains("RECURRENCE-ID:20240110T080000Z\r\n"));
+    QCOMPARE(weekStarts(),
+             (QStringList{"8 09:00", "9 09:00", "10 15:00", "11 09:00", "12 09:00", "13 09:00", "14 09:00"}));
     // The master itself is untouched.
     QCOMPARE(m_state->events()->getById(master.id)->sequence, 0);
 
+    // Moved again, the override itself changes.
+    QVERIFY(m_editor->move(override, at(10, 16), EventEditor::Scope::ThisEvent));
+    QCOMPARE(week().at(2).id, override.id);
+    QCOMPARE(week().at(2).start_time, at(10, 16));
+
+    m_state->undoStack()->undo();
     m_state->undoStack()->undo();
     QCOMPARE(week().at(2).start_time, at(10, 9));
-    QVERIFY(!m_state->events()->getById(after.at(2).id));
-}
-
-void TestEventEditor::moveOverrideAgainChangesTheOverride()
-{
-    addDailySeries();
-    QVERIFY(m_editor->move(week().at(2), at(10, 15), EventEditor::Scope::ThisEvent));
-    const Event override = week().at(2);
-    QVERIFY(m_editor->move(override, at(10, 16), EventEditor::Scope::ThisEvent));
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 7);
-    QCOMPARE(after.at(2).id, override.id);
-    QCOMPARE(after.at(2).start_time, at(10, 16));
-}
-
-void TestEventEditor::moveThisAndFollowingSplitsTheSeries()
-{
-    const Event master = addDailySeries();
-    QVERIFY(m_editor->move(week().at(3), at(11, 11), EventEditor::Scope::ThisAndFollowing));
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 7);
-    QCOMPARE(after.at(2).start_time, at(10, 9));
-    QCOMPARE(after.at(3).start_time, at(11, 11));
-    QCOMPARE(after.at(6).start_time, at(14, 11));
-    QVERIFY(after.at(3).id != master.id);
-    QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule,
-             QStringLiteral("FREQ=DAILY;UNTIL=20240111T075959Z"));
-
-    m_state->undoStack()->undo();
-    const QList<Event> undone = week();
-    QCOMPARE(undone.size(), 7);
-    QCOMPARE(undone.at(6).start_time, at(14, 9));
-    QCOMPARE(m_state->events()->getById(master.id)->recurrence_rule, QStringLiteral("FREQ=DAILY"));
-}
-
-void TestEventEditor::moveFirstOccurrenceThisAndFollowingMovesAll()
-{
-    const Event master = addDailySeries();
-    QVERIFY(m_editor->move(week().at(0), at(8, 8), EventEditor::Scope::ThisAndFollowing));
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 7);
-    for (const Event &occurrence : after)
-        QCOMPARE(occurrence.id, master.id);
-    QCOMPARE(after.at(6).start_time, at(14, 8));
-}
-
-void TestEventEditor::moveAllEventsShiftsTheMaster()
-{
-    const Event master = addDailySeries();
-    QVERIFY(m_editor->move(week().at(4), at(12, 9, 30), EventEditor::Scope::AllEvents));
-    const std::optional<Event> moved = m_state->events()->getById(master.id);
-    QCOMPARE(moved->start_time, at(8, 9, 30));
-    QCOMPARE(*moved->end_time, at(8, 10, 30));
-    QCOMPARE(week().at(6).start_time, at(14, 9, 30));
-    m_state->undoStack()->undo();
-    QCOMPARE(m_state->events()->getById(master.id)->start_time, at(8, 9));
+    QVERIFY(!m_state->events()->getById(override.id));
 }
 
 void TestEventEditor::deleteAndUndo()
@@ -281,57 +284,42 @@ void TestEventEditor::deleteAndUndo()
     QCOMPARE(week().size(), 0);
     m_state->undoStack()->undo();
     QCOMPARE(undone.first().first().toString(), QStringLiteral("Deleted \"Lunch\""));
-    const std::optional<Event> back = m_state->events()->getById(event.id);
-    QVERIFY(!back->deleted_at);
+    QVERIFY(!m_state->events()->getById(event.id)->deleted_at);
     QCOMPARE(week().size(), 1);
 }
 
-void TestEventEditor::deleteOneOccurrenceAddsAnException()
+void TestEventEditor::deleteInSeries_data()
 {
-    const Event master = addDailySeries();
-    QVERIFY(m_editor->remove(week().at(1), EventEditor::Scope::ThisEvent));
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 6);
-    QCOMPARE(after.at(1).start_time, at(10, 9));
-    const Event stored = m_state->events()->getById(master.id).value();
-    QCOMPARE(StorageFormat::parseStringListJson(stored.exception_dates), QStringList{"20240109T080000Z"});
-    QVERIFY(stored.raw_icalendar.contains("EXDATE:20240109T080000Z\r\n"));
-    m_state->undoStack()->undo();
-    QCOMPARE(week().size(), 7);
+    QTest::addColumn<EventEditor::Scope>("scope");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QStringList>("starts");
+    using Scope = EventEditor::Scope;
+    // Wednesday is an override moved to 15:00 before the delete.
+    QTest::newRow("one occurrence") << Scope::ThisEvent << 1 << QStringList{"8 09:00",  "10 15:00", "11 09:00",
+                                                                            "12 09:00", "13 09:00", "14 09:00"};
+    QTest::newRow("the override") << Scope::ThisEvent << 2
+                                  << QStringList{"8 09:00", "9 09:00", "11 09:00", "12 09:00", "13 09:00", "14 09:00"};
+    QTest::newRow("this and following") << Scope::ThisAndFollowing << 4
+                                        << QStringList{"8 09:00", "9 09:00", "10 15:00", "11 09:00"};
+    QTest::newRow("all events, overrides along") << Scope::AllEvents << 5 << QStringList{};
 }
 
-void TestEventEditor::deleteOverrideLeavesTheSlotEmpty()
+void TestEventEditor::deleteInSeries()
 {
-    addDailySeries();
-    QVERIFY(m_editor->move(week().at(2), at(10, 15), EventEditor::Scope::ThisEvent));
-    const Event override = week().at(2);
-    QVERIFY(m_editor->remove(override, EventEditor::Scope::ThisEvent));
-    const QList<Event> after = week();
-    QCOMPARE(after.size(), 6);
-    QCOMPARE(after.at(2).start_time, at(11, 9));
-    m_state->undoStack()->undo();
-    QCOMPARE(week().at(2).start_time, at(10, 15));
-}
-
-void TestEventEditor::deleteThisAndFollowingEndsTheSeries()
-{
-    const Event master = addDailySeries();
-    QVERIFY(m_editor->remove(week().at(4), EventEditor::Scope::ThisAndFollowing));
-    QCOMPARE(week().size(), 4);
-    m_state->undoStack()->undo();
-    QCOMPARE(week().size(), 7);
-}
-
-void TestEventEditor::deleteAllEventsTakesOverridesAlong()
-{
+    QFETCH(EventEditor::Scope, scope);
+    QFETCH(int, index);
     const Event master = addDailySeries();
     QVERIFY(m_editor->move(week().at(2), at(10, 15), EventEditor::Scope::ThisEvent));
-    QVERIFY(m_editor->remove(week().at(5), EventEditor::Scope::AllEvents));
-    QCOMPARE(week().size(), 0);
+    const QStringList before = weekStarts();
+    QVERIFY(m_editor->remove(week().at(index), scope));
+    QTEST(weekStarts(), "starts");
+    if (scope == EventEditor::Scope::ThisEvent && index == 1) {
+        const Event stored = m_state->events()->getById(master.id).value();
+        QCOMPARE(StorageFormat::parseStringListJson(stored.exception_dates), QStringList{"20240109T080000Z"});
+        QVERIFY(stored.raw_icalendar.contains("EXDATE:20240109T080000Z\r\n"));
+    }
     m_state->undoStack()->undo();
-    const QList<Event> back = week();
-    QCOMPARE(back.size(), 7);
-    QCOMPARE(back.at(2).start_time, at(10, 15));
+    QCOMPARE(weekStarts(), before);
 }
 
 void TestEventEditor::saveToAnotherCalendar()
