@@ -30,9 +30,8 @@ private slots:
     void phrases_data();
     void phrases();
     void dueRemindersInOrderAcknowledgedTogether();
-    void missedEventsStayPending();
-    void deletedEventsNeverRemind();
-    void unreadableTriggerIsSkipped();
+    void notShown_data();
+    void notShown();
     void twentyFourHourClock();
     void clickOpensTheLastEvent();
     void failingPollIsReported();
@@ -106,43 +105,21 @@ void TestNotificationService::phrases_data()
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("expectedTitle");
     QTest::addColumn<QString>("expectedBody");
-    QTest::newRow("in minutes") << 10 << qint64(600) << ""
-                                << "Standup"
-                                << "Standup"
-                                << "In 10 minutes (2:10 PM)";
-    QTest::newRow("starting now") << 0 << qint64(1) << ""
-                                  << "Call"
-                                  << "Call"
-                                  << "Starting now (2:00 PM)";
-    QTest::newRow("negative offset") << -5 << qint64(60) << ""
-                                     << "Late"
-                                     << "Late"
-                                     << "In -5 minutes (2:01 PM)";
-    QTest::newRow("hours truncated") << 90 << qint64(5400) << ""
-                                     << "Flight"
-                                     << "Flight"
-                                     << "In 1h (3:30 PM)";
-    QTest::newRow("23 hours") << 1439 << qint64(3600) << ""
-                              << "Review"
-                              << "Review"
-                              << "In 23h (3:00 PM)";
-    QTest::newRow("tomorrow whatever the days") << 2880 << qint64(7200) << ""
-                                                << "Trip"
-                                                << "Trip"
-                                                << "Tomorrow at 4:00 PM";
-    QTest::newRow("with location") << 15 << qint64(900) << "Room 4"
-                                   << "Sync"
-                                   << "Sync"
-                                   << "In 15 minutes (2:15 PM) · Room 4";
-    QTest::newRow("no title") << 5 << qint64(300) << ""
-                              << ""
-                              << "Reminder"
-                              << "In 5 minutes (2:05 PM)";
+    const auto row = [](const char *name, int minutes, qint64 offset, const char *location, const char *title,
+                        const char *expectedTitle, const char *body) {
+        QTest::newRow(name) << minutes << offset << QString::fromUtf8(location) << QString::fromUtf8(title)
+                            << QString::fromUtf8(expectedTitle) << QString::fromUtf8(body);
+    };
+    row("in minutes", 10, 600, "", "Standup", "Standup", "In 10 minutes (2:10 PM)");
+    row("starting now", 0, 1, "", "Call", "Call", "Starting now (2:00 PM)");
+    row("negative offset", -5, 60, "", "Late", "Late", "In -5 minutes (2:01 PM)");
+    row("hours truncated", 90, 5400, "", "Flight", "Flight", "In 1h (3:30 PM)");
+    row("23 hours", 1439, 3600, "", "Review", "Review", "In 23h (3:00 PM)");
+    row("tomorrow whatever the days", 2880, 7200, "", "Trip", "Trip", "Tomorrow at 4:00 PM");
+    row("with location", 15, 900, "Room 4", "Sync", "Sync", "In 15 minutes (2:15 PM) · Room 4");
+    row("no title", 5, 300, "", "", "Reminder", "In 5 minutes (2:05 PM)");
     // The phrase follows the reminder, not the time actually left: the event began 20 minutes ago.
-    QTest::newRow("started 20 minutes ago") << 10 << qint64(-1200) << ""
-                                            << "Retro"
-                                            << "Retro"
-                                            << "In 10 minutes (1:40 PM)";
+    row("started 20 minutes ago", 10, -1200, "", "Retro", "Retro", "In 10 minutes (1:40 PM)");
 }
 
 void TestNotificationService::phrases()
@@ -179,36 +156,34 @@ void TestNotificationService::dueRemindersInOrderAcknowledgedTogether()
     QVERIFY(!acknowledged(QStringLiteral("later")));
 }
 
-void TestNotificationService::missedEventsStayPending()
+void TestNotificationService::notShown_data()
 {
-    addEvent(QStringLiteral("old"), QStringLiteral("Began 40 minutes ago"), -2400, 10, 3000);
-    addEvent(QStringLiteral("edge"), QStringLiteral("Began exactly 30 minutes ago"), -1800, 10, 2400);
-    QSignalSpy shown(m_service.get(), &NotificationService::reminderShown);
-    poll();
-    poll();
-    QCOMPARE(shown.count(), 0);
-    QVERIFY(!acknowledged(QStringLiteral("old")));
-    QVERIFY(!acknowledged(QStringLiteral("edge")));
+    QTest::addColumn<qint64>("startOffset");
+    QTest::addColumn<QString>("spoil"); // what happens to the event before the poll
+    QTest::newRow("began 40 minutes ago") << qint64(-2400) << QString();
+    QTest::newRow("began exactly 30 minutes ago") << qint64(-1800) << QString();
+    QTest::newRow("deleted") << qint64(599) << QStringLiteral("delete");
+    QTest::newRow("unreadable trigger") << qint64(
+        599) << QStringLiteral("UPDATE reminders SET trigger_time = 'soon' WHERE event_id = 'e'");
 }
 
-void TestNotificationService::deletedEventsNeverRemind()
+void TestNotificationService::notShown()
 {
-    addEvent(QStringLiteral("gone"), QStringLiteral("Cancelled"), 600, 10, 1);
-    QVERIFY(m_state->events()->remove(QStringLiteral("gone")));
+    QFETCH(qint64, startOffset);
+    QFETCH(QString, spoil);
+    addEvent(QStringLiteral("e"), QStringLiteral("Standup"), startOffset, 10,
+             600 - startOffset); // due 10 minutes before
+    if (spoil == QLatin1String("delete"))
+        QVERIFY(m_state->events()->remove(QStringLiteral("e")));
+    else if (!spoil.isEmpty())
+        QVERIFY(QSqlQuery(m_state->database()->connection()).exec(spoil));
     QSignalSpy shown(m_service.get(), &NotificationService::reminderShown);
     poll();
-    QCOMPARE(shown.count(), 0);
-}
-
-void TestNotificationService::unreadableTriggerIsSkipped()
-{
-    addEvent(QStringLiteral("bad"), QStringLiteral("Broken"), 600, 10, 1);
-    QSqlQuery(m_state->database()->connection())
-        .exec(QStringLiteral("UPDATE reminders SET trigger_time = 'soon' WHERE event_id = 'bad'"));
-    QSignalSpy shown(m_service.get(), &NotificationService::reminderShown);
     poll();
     QCOMPARE(shown.count(), 0);
-    QVERIFY(!acknowledged(QStringLiteral("bad")));
+    // Left pending: a missed or unreadable reminder is not marked as seen.
+    if (spoil != QLatin1String("delete"))
+        QVERIFY(!acknowledged(QStringLiteral("e")));
 }
 
 void TestNotificationService::twentyFourHourClock()
@@ -258,12 +233,9 @@ void TestNotificationService::offsetLabels_data()
     QTest::newRow("0") << 0 << "At time of event";
     QTest::newRow("negative") << -10 << "At time of event";
     QTest::newRow("1") << 1 << "1 min before";
-    QTest::newRow("45") << 45 << "45 min before";
     QTest::newRow("60") << 60 << "1 hour(s) before";
-    QTest::newRow("120") << 120 << "2 hour(s) before";
     QTest::newRow("1439") << 1439 << "23 hour(s) before";
     QTest::newRow("1440") << 1440 << "1 day(s) before";
-    QTest::newRow("2880") << 2880 << "2 day(s) before";
     QTest::newRow("10079") << 10079 << "6 day(s) before";
 }
 
