@@ -81,21 +81,15 @@ void TestAppState::storedValuesAreClamped_data()
     QTest::addColumn<int>("expectedHeight");
     QTest::addColumn<int>("expectedHorizon");
     QTest::addColumn<QString>("expectedMode");
-    QTest::newRow("too small") << "30"
-                               << "1"
-                               << "day" << 56 << 2 << "day";
-    QTest::newRow("too large") << "500"
-                               << "30"
-                               << "month" << 200 << 21 << "month";
-    QTest::newRow("in range") << "80"
-                              << "14"
-                              << "week" << 80 << 14 << "week";
-    QTest::newRow("not numbers") << "tall"
-                                 << ""
-                                 << "agenda" << 56 << 7 << "week";
-    QTest::newRow("list mode") << "56"
-                               << "7"
-                               << "list" << 56 << 7 << "week";
+    const auto row = [](const char *name, const char *height, const char *horizon, const char *mode, int expectedHeight,
+                        int expectedHorizon, const char *expectedMode) {
+        QTest::newRow(name) << QString::fromLatin1(height) << QString::fromLatin1(horizon) << QString::fromLatin1(mode)
+                            << expectedHeight << expectedHorizon << QString::fromLatin1(expectedMode);
+    };
+    row("too small", "30", "1", "day", 56, 2, "day");
+    row("too large", "500", "30", "month", 200, 21, "month");
+    row("not numbers", "tall", "", "agenda", 56, 7, "week");
+    row("list mode", "80", "14", "list", 80, 14, "week");
 }
 
 void TestAppState::storedValuesAreClamped()
@@ -248,10 +242,8 @@ void TestAppState::firstDayOfWeek_data()
     QTest::addColumn<bool>("followsLocale");
     QTest::addColumn<int>("expected");
     QTest::newRow("Monday") << "1" << false << 1;
-    QTest::newRow("Saturday") << "6" << false << 6;
     QTest::newRow("Sunday") << "7" << false << 7;
     QTest::newRow("zero") << "0" << true << 0;
-    QTest::newRow("eight") << "8" << true << 0;
     QTest::newRow("text") << "sunday" << true << 0;
 }
 

@@ -153,20 +153,16 @@ void TestPlatformIntegration::resolvedLanguage_data()
     QTest::addColumn<QString>("systemLocale");
     QTest::addColumn<bool>("resolveSystem");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("system, supported") << "system"
-                                       << "ja_JP" << true << "ja";
-    QTest::newRow("system, German in Austria") << "system"
-                                               << "de_AT" << true << "de";
-    QTest::newRow("system, unsupported") << "system"
-                                         << "pt_BR" << true << "en";
-    QTest::newRow("system, C locale") << "system"
-                                      << "C" << true << "en";
-    QTest::newRow("system unresolved") << "system"
-                                       << "de_DE" << false << "system";
-    QTest::newRow("explicit choice") << "fr"
-                                     << "de_DE" << true << "fr";
-    QTest::newRow("stored value is not validated") << "xx"
-                                                   << "de_DE" << true << "xx";
+    const auto row = [](const char *name, const char *stored, const char *locale, bool resolve, const char *expected) {
+        QTest::newRow(name) << QString::fromLatin1(stored) << QString::fromLatin1(locale) << resolve
+                            << QString::fromLatin1(expected);
+    };
+    row("system, German in Austria", "system", "de_AT", true, "de");
+    row("system, unsupported", "system", "pt_BR", true, "en");
+    row("system, C locale", "system", "C", true, "en");
+    row("system unresolved", "system", "de_DE", false, "system");
+    row("explicit choice", "fr", "de_DE", true, "fr");
+    row("stored value is not validated", "xx", "de_DE", true, "xx");
 }
 
 void TestPlatformIntegration::resolvedLanguage()

@@ -107,14 +107,12 @@ void TestSidebar::weekNumbers_data()
     QTest::newRow("January 2024") << QDate(2024, 1, 1) << 1 << QList<int>{1, 2, 3, 4, 5, 6};
     // 2020 has 53 ISO weeks; its last one reaches into January 2021.
     QTest::newRow("January 2021, Monday first") << QDate(2021, 1, 1) << 1 << QList<int>{53, 1, 2, 3, 4, 5};
-    QTest::newRow("January 2021, Sunday first") << QDate(2021, 1, 1) << 7 << QList<int>{53, 1, 2, 3, 4, 5};
     // 30 December 2024 belongs to week 1 of 2025.
     QTest::newRow("December 2024") << QDate(2024, 12, 1) << 1 << QList<int>{48, 49, 50, 51, 52, 1};
     // A row from Sunday 29 December 2024: most of it is in week 1.
     QTest::newRow("December 2024, Sunday first") << QDate(2024, 12, 1) << 7 << QList<int>{49, 50, 51, 52, 1, 2};
     // A row from Wednesday 30 December 2020 has five days of week 53 and two of week 1.
     QTest::newRow("January 2021, Wednesday first") << QDate(2021, 1, 1) << 3 << QList<int>{53, 1, 2, 3, 4, 5};
-    QTest::newRow("January 2016, Saturday first") << QDate(2016, 1, 1) << 6 << QList<int>{53, 1, 2, 3, 4, 5};
 }
 
 void TestSidebar::weekNumbers()
@@ -185,7 +183,6 @@ void TestSidebar::visibleRange_data()
     QTest::newRow("day") << "day" << 7 << 1 << QDate(2024, 3, 13) << QDate(2024, 3, 13);
     QTest::newRow("week, Monday first") << "week" << 7 << 1 << QDate(2024, 3, 11) << QDate(2024, 3, 17);
     QTest::newRow("week, Sunday first") << "week" << 7 << 7 << QDate(2024, 3, 10) << QDate(2024, 3, 16);
-    QTest::newRow("three days") << "week" << 3 << 1 << QDate(2024, 3, 13) << QDate(2024, 3, 15);
     QTest::newRow("two weeks") << "week" << 14 << 1 << QDate(2024, 3, 13) << QDate(2024, 3, 26);
     QTest::newRow("month") << "month" << 7 << 1 << QDate(2024, 3, 1) << QDate(2024, 3, 31);
 }
