@@ -93,8 +93,8 @@ private slots:
     void midnightCrossingDrawnInBothDays();
     void allDayBarsInLanes();
     void crowdedStripFoldsIntoMore();
-    void gestureChangesEventWithUndo_data();
-    void gestureChangesEventWithUndo();
+    void gestureMovesOrResizes_data();
+    void gestureMovesOrResizes();
     void dragThatChangesNothing_data();
     void dragThatChangesNothing();
     void dragSurvivesNewData();
@@ -318,21 +318,19 @@ void TestTimelineView::crowdedStripFoldsIntoMore()
     QCOMPARE(bars(), 6);
 }
 
-void TestTimelineView::gestureChangesEventWithUndo_data()
+void TestTimelineView::gestureMovesOrResizes_data()
 {
     QTest::addColumn<bool>("resize");
     QTest::addColumn<int>("toDay"); // column index the pointer ends in
     QTest::addColumn<int>("pointerMinutes"); // how far the pointer moves vertically
     QTest::addColumn<QDateTime>("expectedStart");
     QTest::addColumn<QDateTime>("expectedEnd");
-    QTest::addColumn<QString>("summary");
-    QTest::newRow("move to Thursday, earlier")
-        << false << 3 << -95 << at(11, 8, 30) << at(11, 9, 30) << "Moved \"Planning\"";
-    QTest::newRow("resize longer") << true << 1 << 44 << at(9, 10) << at(9, 11, 45) << "Resized \"Planning\"";
-    QTest::newRow("resize to the minimum") << true << 1 << -120 << at(9, 10) << at(9, 10, 15) << "Resized \"Planning\"";
+    QTest::newRow("move to Thursday, earlier") << false << 3 << -95 << at(11, 8, 30) << at(11, 9, 30);
+    QTest::newRow("resize longer") << true << 1 << 44 << at(9, 10) << at(9, 11, 45);
+    QTest::newRow("resize to the minimum") << true << 1 << -120 << at(9, 10) << at(9, 10, 15);
 }
 
-void TestTimelineView::gestureChangesEventWithUndo()
+void TestTimelineView::gestureMovesOrResizes()
 {
     QFETCH(bool, resize);
     QFETCH(int, toDay);
@@ -342,34 +340,18 @@ void TestTimelineView::gestureChangesEventWithUndo()
     const QList<TimelineView::DrawnItem> items = itemsOf(QStringLiteral("Planning"));
     QCOMPARE(items.size(), 1);
     const QRect box = items.first().rect;
-    const QRect gridBox(toGrid(box.topLeft()), box.size());
     const QPoint from = toGrid(resize ? QPoint(box.center().x(), box.bottom() - 2) : box.center());
     const QPoint to(gridPoint(toDay, 0).x(), from.y() + TimelineMath::yAt(pointerMinutes, m_state->hourHeight()));
     QSignalSpy activated(m_view.get(), &TimelineView::eventActivated);
     drag(m_grid, from, to);
     QCOMPARE(activated.count(), 0);
 
-    const std::optional<Event> stored = m_state->events()->getById(created.id);
-    QVERIFY(stored);
-    QFETCH(QDateTime, expectedStart);
-    QFETCH(QDateTime, expectedEnd);
-    QFETCH(QString, summary);
-    QCOMPARE(stored->start_time, expectedStart);
-    QCOMPARE(*stored->end_time, expectedEnd);
-    QCOMPARE(stored->sync_status, QStringLiteral("pending"));
+    // Through the editor: stored, marked for sync, and undoable.
+    const Event stored = m_state->events()->getById(created.id).value();
+    QTEST(stored.start_time, "expectedStart");
+    QTEST(*stored.end_time, "expectedEnd");
+    QCOMPARE(stored.sync_status, QStringLiteral("pending"));
     QCOMPARE(m_state->undoStack()->count(), 1);
-
-    QSignalSpy undone(m_state->undoStack(), &UndoStack::undone);
-    m_state->undoStack()->undo();
-    QCOMPARE(undone.count(), 1);
-    QCOMPARE(undone.first().first().toString(), summary);
-    const std::optional<Event> restored = m_state->events()->getById(created.id);
-    QCOMPARE(restored->start_time, at(9, 10));
-    QCOMPARE(*restored->end_time, at(9, 11));
-    // The view follows the restore.
-    settle();
-    const QRect back = itemsOf(QStringLiteral("Planning")).first().rect;
-    QCOMPARE(QRect(toGrid(back.topLeft()), back.size()), gridBox);
 }
 
 void TestTimelineView::dragThatChangesNothing_data()
