@@ -293,15 +293,18 @@ void TestEventEditor::deleteInSeries_data()
     QTest::addColumn<EventEditor::Scope>("scope");
     QTest::addColumn<int>("index");
     QTest::addColumn<QStringList>("starts");
+    QTest::addColumn<int>("rows"); // live rows left: the master and the override before the delete
     using Scope = EventEditor::Scope;
     // Wednesday is an override moved to 15:00 before the delete.
     QTest::newRow("one occurrence") << Scope::ThisEvent << 1 << QStringList{"8 09:00",  "10 15:00", "11 09:00",
-                                                                            "12 09:00", "13 09:00", "14 09:00"};
+                                                                            "12 09:00", "13 09:00", "14 09:00"}
+                                    << 2;
     QTest::newRow("the override") << Scope::ThisEvent << 2
-                                  << QStringList{"8 09:00", "9 09:00", "11 09:00", "12 09:00", "13 09:00", "14 09:00"};
+                                  << QStringList{"8 09:00", "9 09:00", "11 09:00", "12 09:00", "13 09:00", "14 09:00"}
+                                  << 1;
     QTest::newRow("this and following") << Scope::ThisAndFollowing << 4
-                                        << QStringList{"8 09:00", "9 09:00", "10 15:00", "11 09:00"};
-    QTest::newRow("all events, overrides along") << Scope::AllEvents << 5 << QStringList{};
+                                        << QStringList{"8 09:00", "9 09:00", "10 15:00", "11 09:00"} << 2;
+    QTest::newRow("all events, overrides along") << Scope::AllEvents << 5 << QStringList{} << 0;
 }
 
 void TestEventEditor::deleteInSeries()
@@ -313,6 +316,7 @@ void TestEventEditor::deleteInSeries()
     const QStringList before = weekStarts();
     QVERIFY(m_editor->remove(week().at(index), scope));
     QTEST(weekStarts(), "starts");
+    QTEST(int(m_state->events()->getByCalendar(AppState::kLocalCalendarId).size()), "rows");
     if (scope == EventEditor::Scope::ThisEvent && index == 1) {
         const Event stored = m_state->events()->getById(master.id).value();
         QCOMPARE(StorageFormat::parseStringListJson(stored.exception_dates), QStringList{"20240109T080000Z"});
@@ -320,6 +324,7 @@ void TestEventEditor::deleteInSeries()
     }
     m_state->undoStack()->undo();
     QCOMPARE(weekStarts(), before);
+    QCOMPARE(m_state->events()->getByCalendar(AppState::kLocalCalendarId).size(), 2);
 }
 
 void TestEventEditor::saveToAnotherCalendar()
