@@ -166,11 +166,8 @@ void TestDatabase::splitStatements_data()
     QTest::newRow("any line holding BEGIN opens a block")
         << "INSERT INTO a VALUES ('BEGINNER');\nSELECT 1;\nEND_MARK;\nSELECT 2;\n"
         << QStringList{"INSERT INTO a VALUES ('BEGINNER');\nSELECT 1;\nEND_MARK", "SELECT 2"};
-    QTest::newRow("END without an open block changes nothing") << "END;\nSELECT 1;\n" << QStringList{"END", "SELECT 1"};
-    QTest::newRow("lone semicolons dropped") << ";\n  ;\nSELECT 1;\n" << QStringList{"SELECT 1"};
     QTest::newRow("last statement without semicolon") << "SELECT 1;\nSELECT 2" << QStringList{"SELECT 1", "SELECT 2"};
     QTest::newRow("only one trailing semicolon removed") << "SELECT 1;;\n" << QStringList{"SELECT 1;"};
-    QTest::newRow("empty script") << "\n\n" << QStringList{};
     QTest::newRow("carriage returns") << "SELECT 1;\r\nSELECT 2;\r\n" << QStringList{"SELECT 1", "SELECT 2"};
 }
 
