@@ -71,7 +71,6 @@ private slots:
     void childRowsInBatch();
     void updateReplacesChildRows();
     void updateBindsPendingAndNow();
-    void updateOfMissingRowFails();
     void tombstonesAreHidden();
     void undoDeleteOfPushedEvent();
     void undoDeleteAfterPurge();
@@ -179,13 +178,9 @@ void TestEventRepository::timesAndZones_data()
                           << QByteArray("Europe/Berlin") << 3600;
     QTest::newRow("zone named, stored in utc")
         << "Europe/Berlin" << utcStart << "2025-03-14T09:30:00Z" << QByteArray("Europe/Berlin") << 3600;
-    QTest::newRow("zone in summer") << "America/New_York" << utc(QStringLiteral("2025-07-01T16:00:00"))
-                                    << "2025-07-01T16:00:00Z" << QByteArray("America/New_York") << -4 * 3600;
     QTest::newRow("no zone name") << "" << berlinStart << "2025-03-14T10:30:00+01:00" << QByteArray() << 3600;
     QTest::newRow("unknown zone") << "Mars/Olympus" << berlinStart << "2025-03-14T10:30:00+01:00" << QByteArray()
                                   << 3600;
-    QTest::newRow("utc named, zoned value")
-        << "UTC" << berlinStart << "2025-03-14T10:30:00+01:00" << QByteArray() << 3600;
 }
 
 void TestEventRepository::timesAndZones()
@@ -272,10 +267,7 @@ void TestEventRepository::rangeSemantics_data()
         << QStringList() << everything;
     QTest::newRow("one calendar") << weekStart << weekEnd << QStringList{"cal-a"}
                                   << QStringList{"master-last-year", "no-end", "overlaps-start", "inside"};
-    QTest::newRow("two calendars") << weekStart << weekEnd << QStringList{"cal-b", "cal-a"} << everything;
     QTest::newRow("unknown calendar") << weekStart << weekEnd << QStringList{"nope"} << QStringList();
-    QTest::newRow("before everything") << utc(QStringLiteral("2020-01-01T00:00:00"))
-                                       << utc(QStringLiteral("2020-02-01T00:00:00")) << QStringList() << QStringList();
     QTest::newRow("range starts where an event ends")
         << utc(QStringLiteral("2025-03-10T09:30:00")) << weekEnd << QStringList()
         << QStringList{"master-last-year", "no-end", "inside", "other-calendar"};
@@ -461,18 +453,6 @@ void TestEventRepository::updateBindsPendingAndNow()
     QCOMPARE(m_repo->getById(event.id)->sync_status, QStringLiteral("synced"));
 }
 
-void TestEventRepository::updateOfMissingRowFails()
-{
-    QSignalSpy spy(m_repo.get(), &EventRepository::eventsChanged);
-    Event ghost = makeEvent(QStringLiteral("ghost"), QStringLiteral("cal-a"),
-                            utc(QStringLiteral("2025-03-12T10:00:00")), std::nullopt);
-    ghost.reminders = {Reminder{}};
-    QTest::ignoreMessage(QtWarningMsg, "EventRepository::update failed: no event with id ghost");
-    QVERIFY(!m_repo->update(ghost));
-    QCOMPARE(m_store.scalar(QStringLiteral("SELECT COUNT(*) FROM reminders")).toInt(), 0);
-    QVERIFY(!spy.wait(300));
-}
-
 void TestEventRepository::tombstonesAreHidden()
 {
     const QDateTime start = utc(QStringLiteral("2025-03-12T10:00:00"));
@@ -646,16 +626,13 @@ void TestEventRepository::search_data()
     QTest::addColumn<QStringList>("expected");
 
     QTest::newRow("blank") << "  " << 10 << QStringList();
-    QTest::newRow("empty") << "" << 10 << QStringList();
     QTest::newRow("typed percent is a wildcard")
         << "50%" << 10 << QStringList{"team-50", "budget-50-percent", "room-501"};
     QTest::newRow("typed underscore is a wildcard") << "l_nch" << 10 << QStringList{"lunch"};
     QTest::newRow("trimmed, any case") << "  LUNCH " << 10 << QStringList{"lunch"};
     QTest::newRow("description") << "quarterly" << 10 << QStringList{"lunch"};
     QTest::newRow("limit zero behaves as one") << "50" << 0 << QStringList{"team-50"};
-    QTest::newRow("negative limit behaves as one") << "50" << -3 << QStringList{"team-50"};
     QTest::newRow("limit two") << "50" << 2 << QStringList{"team-50", "budget-50-percent"};
-    QTest::newRow("nothing") << "zebra" << 10 << QStringList();
 }
 
 void TestEventRepository::search()
@@ -714,6 +691,12 @@ void TestEventRepository::failedChangeSendsNoSignal()
     QVERIFY(!m_repo->remove(QStringLiteral("missing")));
     QVERIFY(!m_repo->hardDelete(QStringLiteral("missing")));
     QVERIFY(!m_repo->markSynced(QStringLiteral("missing"), QString(), QString()));
+    Event ghost = makeEvent(QStringLiteral("ghost"), QStringLiteral("cal-a"),
+                            utc(QStringLiteral("2025-03-12T10:00:00")), std::nullopt);
+    ghost.reminders = {Reminder{}};
+    QTest::ignoreMessage(QtWarningMsg, "EventRepository::update failed: no event with id ghost");
+    QVERIFY(!m_repo->update(ghost));
+    QCOMPARE(m_store.scalar(QStringLiteral("SELECT COUNT(*) FROM reminders")).toInt(), 0);
     Event orphan = makeEvent(QStringLiteral("orphan"), QStringLiteral("no-such-calendar"),
                              utc(QStringLiteral("2025-03-12T10:00:00")), std::nullopt);
     QTest::ignoreMessage(QtWarningMsg,

@@ -329,13 +329,9 @@ void TestKbcalAgenda::usage_data()
                                       << "kbcal: --to and --days cannot be used together";
     QTest::newRow("unreadable --from") << QStringList{"--from", "next tuesday"} << 2
                                        << "kbcal: invalid date for --from: 'next tuesday'";
-    QTest::newRow("unreadable --to") << QStringList{"--to", "2024-13-01"} << 2
-                                     << "kbcal: invalid date for --to: '2024-13-01'";
     QTest::newRow("--to before --from") << QStringList{"--from", "2024-03-12", "--to", "2024-03-11"} << 2
                                         << "kbcal: --to must be later than the start of the span";
     QTest::newRow("zero days") << QStringList{"--days", "0"} << 2 << "kbcal: invalid number of days: '0'";
-    QTest::newRow("days not a number") << QStringList{"--days", "a week"} << 2
-                                       << "kbcal: invalid number of days: 'a week'";
     QTest::newRow("unknown calendar") << QStringList{"--calendar", "nope"} << 1
                                       << "kbcal: no calendar with the id nope";
     QTest::newRow("stray argument") << QStringList{"tomorrow"} << 2 << "kbcal: unexpected argument 'tomorrow'";

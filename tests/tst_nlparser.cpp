@@ -92,14 +92,8 @@ void TestNLParser::defaultStart_data()
     QTest::addColumn<QDateTime>("expected");
 
     QTest::newRow("14:10 to half past") << utc(2024, 3, 15, 14, 10) << utc(2024, 3, 15, 14, 30);
-    QTest::newRow("14:40 to the hour") << utc(2024, 3, 15, 14, 40) << utc(2024, 3, 15, 15, 0);
     QTest::newRow("14:30:45 drops the seconds") << utc(2024, 3, 15, 14, 30, 45) << utc(2024, 3, 15, 14, 30);
-    QTest::newRow("full hour stays") << utc(2024, 3, 15, 14, 0, 59) << utc(2024, 3, 15, 14, 0);
-    QTest::newRow("14:01") << utc(2024, 3, 15, 14, 1) << utc(2024, 3, 15, 14, 30);
-    QTest::newRow("14:29:59") << utc(2024, 3, 15, 14, 29, 59) << utc(2024, 3, 15, 14, 30);
-    QTest::newRow("14:31") << utc(2024, 3, 15, 14, 31) << utc(2024, 3, 15, 15, 0);
     QTest::newRow("14:59") << utc(2024, 3, 15, 14, 59) << utc(2024, 3, 15, 15, 0);
-    QTest::newRow("just before midnight") << utc(2024, 12, 31, 23, 45) << utc(2025, 1, 1, 0, 0);
     QTest::newRow("milliseconds dropped")
         << QDateTime(QDate(2024, 3, 15), QTime(14, 30, 0, 999), Qt::UTC) << utc(2024, 3, 15, 14, 30);
     QTest::newRow("zone kept") << berlin(2024, 3, 15, 9, 5) << berlin(2024, 3, 15, 9, 30);
@@ -137,33 +131,22 @@ void TestNLParser::matchDate_data()
           };
 
     row("today", "Plan today", friday, friday, "today");
-    row("tonight is the date only", "Party tonight", friday, friday, "tonight");
     row("tomorrow", "Review tomorrow", friday, QDate(2024, 3, 16), "tomorrow");
-    row("yesterday", "Report yesterday", friday, QDate(2024, 3, 14), "yesterday");
     row("letter case ignored", "TOMORROW lunch", friday, QDate(2024, 3, 16), "TOMORROW");
     row("not inside a word", "todays tomorrowland tomorrow", friday, QDate(2024, 3, 16), "tomorrow");
 
     row("next monday from friday", "Gym next monday", friday, monday, "next monday");
     row("next monday on a monday is a week on", "Gym next monday", monday, QDate(2024, 3, 25), "next monday");
     row("next friday on a friday", "next friday", friday, QDate(2024, 3, 22), "next friday");
-    row("next thursday", "next thursday", friday, QDate(2024, 3, 21), "next thursday");
-    row("next sat", "Hike next sat", friday, QDate(2024, 3, 16), "next sat");
     row("next tues", "Sync next tues", friday, QDate(2024, 3, 19), "next tues");
-    row("next thur", "next thur", friday, QDate(2024, 3, 21), "next thur");
-    row("next sun", "next  Sun", friday, QDate(2024, 3, 17), "next  Sun");
 
     row("friday on a friday is today", "Call mom friday", friday, friday, "friday");
-    row("on sat", "Brunch on sat", friday, QDate(2024, 3, 16), "on sat");
     row("wed wraps to next week", "Dentist wed", friday, QDate(2024, 3, 20), "wed");
-    row("thurs", "Retro thurs", friday, QDate(2024, 3, 21), "thurs");
     row("monday on a monday", "Standup monday", monday, monday, "monday");
-    row("sunday from monday", "Church Sunday", monday, QDate(2024, 3, 24), "Sunday");
 
     row("in 3 days", "Trip in 3 days", friday, QDate(2024, 3, 18), "in 3 days");
-    row("in 1 day", "Trip in 1 day", friday, QDate(2024, 3, 16), "in 1 day");
     row("in 0 days", "in 0 days", friday, friday, "in 0 days");
     row("in 2 weeks", "Trip in 2 weeks", friday, QDate(2024, 3, 29), "in 2 weeks");
-    row("in 1 week", "in 1 Week", friday, QDate(2024, 3, 22), "in 1 Week");
     row("leading zeros", "in 0000000000000000000000007 days", friday, QDate(2024, 3, 22),
         "in 0000000000000000000000007 days");
     row("more days than any date", "in 99999999999999 days", friday, QDate(), "in 99999999999999 days");
@@ -172,12 +155,8 @@ void TestNLParser::matchDate_data()
     row("dec 3 in late december", "Dentist dec 3", QDate(2024, 12, 28), QDate(2025, 12, 3), "dec 3");
     row("the same day stays", "on March 15", friday, friday, "on March 15");
     row("yesterday's month day is next year", "mar 14", friday, QDate(2025, 3, 14), "mar 14");
-    row("sept", "Fair sept 5", friday, QDate(2024, 9, 5), "sept 5");
     row("september", "Fair September 05", friday, QDate(2024, 9, 5), "September 05");
-    row("january next year", "January 5", friday, QDate(2025, 1, 5), "January 5");
-    row("may", "may 1", friday, QDate(2024, 5, 1), "may 1");
     row("jan 40 stays invalid", "Party jan 40", friday, QDate(), "jan 40");
-    row("apr 31 stays invalid", "apr 31", friday, QDate(), "apr 31");
     row("day 0 is invalid", "jun 0", friday, QDate(), "jun 0");
     row("feb 29 in a common year", "feb 29", QDate(2023, 1, 10), QDate(), "feb 29");
     // A leap day that has passed moves on one year, where it has no such day: Qt's addYears
@@ -189,7 +168,6 @@ void TestNLParser::matchDate_data()
     row("next before bare weekday", "friday next monday", friday, monday, "next monday");
     row("weekday before in N days", "in 3 days friday", friday, friday, "friday");
     row("in N days before month day", "jan 5 in 3 days", friday, QDate(2024, 3, 18), "in 3 days");
-    row("weekday before month day", "jan 5 monday", friday, monday, "monday");
     row("first weekday only", "monday tuesday", friday, monday, "monday");
 
     // Case-insensitive matching also accepts U+017F (long s) for "s" and U+212A (Kelvin) for "k".
@@ -199,7 +177,6 @@ void TestNLParser::matchDate_data()
         QString::fromUtf8("in 2 wee\u212As"));
 
     QTest::newRow("nothing") << "Standup" << friday << false << QDate() << QString();
-    QTest::newRow("month without day") << "march madness" << friday << false << QDate() << QString();
     QTest::newRow("number without unit") << "in 3 months" << friday << false << QDate() << QString();
     QTest::newRow("three digits are no day") << "jan 123" << friday << false << QDate() << QString();
 }
@@ -242,7 +219,6 @@ void TestNLParser::matchTime_data()
     range("both markers", "from 9:15am to 5:45pm", QTime(9, 15), QTime(17, 45), "from 9:15am to 5:45pm");
     range("start marker wins over borrowing", "from 10pm to 1am", QTime(22, 0), QTime(1, 0), "from 10pm to 1am");
     range("no markers are 24-hour values", "from 14 to 16", QTime(14, 0), QTime(16, 0), "from 14 to 16");
-    range("12am to 12pm", "from 12am to 12pm", QTime(0, 0), QTime(12, 0), "from 12am to 12pm");
     range("markers with blanks and capitals", "From 9 AM To 11 PM", QTime(9, 0), QTime(23, 0), "From 9 AM To 11 PM");
     // The blank after a bare end hour belongs to the match when a word follows.
     range("trailing blank before a word", "from 9 to 11 standup", QTime(9, 0), QTime(11, 0), "from 9 to 11 ");
@@ -250,43 +226,30 @@ void TestNLParser::matchTime_data()
     range("impossible start", "from 30 to 10", QTime(), QTime(10, 0), "from 30 to 10");
 
     at("noon", "Lunch at noon", QTime(12, 0), "at noon");
-    at("noon without at", "Noon lunch", QTime(12, 0), "Noon");
     at("midnight", "Deploy at midnight", QTime(0, 0), "at midnight");
 
     at("at 7 is morning", "Flight at 7", QTime(7, 0), "at 7");
-    at("at 3", "at 3", QTime(3, 0), "at 3");
     at("at 12:30pm", "Lunch at 12:30pm", QTime(12, 30), "at 12:30pm");
     at("at 12am", "at 12am", QTime(0, 0), "at 12am");
-    at("at 12pm", "at 12pm", QTime(12, 0), "at 12pm");
-    at("at 11:05 PM", "at 11:05 PM", QTime(23, 5), "at 11:05 PM");
     at("at 13pm keeps 13", "at 13pm", QTime(13, 0), "at 13pm");
     at("at 0pm", "at 0pm", QTime(12, 0), "at 0pm");
-    at("at 9 am", "Call at 9 am", QTime(9, 0), "at 9 am");
     at("at 25 is impossible", "Meet at 25", QTime(), "at 25");
     at("at 9:75 is impossible", "Meet at 9:75", QTime(), "at 9:75");
 
     at("at 1530", "Meet at 1530", QTime(15, 30), "at 1530");
-    at("at 0000", "at 0000", QTime(0, 0), "at 0000");
-    at("at 2359", "at 2359", QTime(23, 59), "at 2359");
     QTest::newRow("at 2460 finds nothing") << "Meet at 2460" << false << QTime() << false << QTime() << QString();
-    QTest::newRow("at 2400 finds nothing") << "at 2400" << false << QTime() << false << QTime() << QString();
     at("at 1260 falls through to a marker", "at 1260 5pm", QTime(17, 0), "5pm");
 
     at("marker", "Call 5pm", QTime(17, 0), "5pm");
-    at("marker with minutes", "Call 5:30 am", QTime(5, 30), "5:30 am");
-    at("12 AM", "12 AM", QTime(0, 0), "12 AM");
 
     // Order of the patterns.
     range("range before noon", "at noon from 9 to 10", QTime(9, 0), QTime(10, 0), "from 9 to 10");
     at("noon before a marker", "5pm at noon", QTime(12, 0), "at noon");
-    at("noon before midnight", "midnight noon", QTime(12, 0), "noon");
     at("midnight before at", "at 3 midnight", QTime(0, 0), "midnight");
     at("at H before at HHMM", "at 1530 at 9", QTime(9, 0), "at 9");
-    at("at before a marker", "5pm at 7", QTime(7, 0), "at 7");
     at("first match only", "at 7 at 9", QTime(7, 0), "at 7 ");
 
     QTest::newRow("nothing") << "Standup" << false << QTime() << false << QTime() << QString();
-    QTest::newRow("bare number") << "Room 5" << false << QTime() << false << QTime() << QString();
     QTest::newRow("three digits") << "at 153" << false << QTime() << false << QTime() << QString();
 }
 
@@ -316,18 +279,11 @@ void TestNLParser::matchDuration_data()
     QTest::addColumn<int>("minutes");
 
     QTest::newRow("45 min") << "Lunch for 45 min" << 45;
-    QTest::newRow("mins without blank") << "for 10mins" << 10;
-    QTest::newRow("minute") << "for 1 minute" << 1;
-    QTest::newRow("minutes") << "for 90 Minutes" << 90;
     QTest::newRow("h") << "for 2 h" << 120;
-    QTest::newRow("hr") << "for 1 hr" << 60;
     QTest::newRow("hrs") << "for 3hrs" << 180;
-    QTest::newRow("hour") << "for 1 hour" << 60;
     QTest::newRow("1.5 hours") << "for 1.5 hours" << 90;
-    QTest::newRow("0.25 h") << "for 0.25 h" << 15;
     QTest::newRow("2.9 min truncated") << "for 2.9 min" << 2;
     QTest::newRow("0.01 h truncated to 0") << "for 0.01 h" << 0;
-    QTest::newRow("1.99 h") << "for 1.99 h" << 119;
     // Exact decimal arithmetic: a double would round these to 3 and 70.
     QTest::newRow("many nines stay below 3") << "for 2.99999999999999999999 min" << 2;
     QTest::newRow("just below 70 minutes") << "for 1.1666666666666666666666 h" << 69;
@@ -335,12 +291,10 @@ void TestNLParser::matchDuration_data()
     QTest::newRow("35791394 hours fit") << "for 35791394 hours" << 2147483640;
     QTest::newRow("too long in minutes") << "for 2147483648 min" << -1;
     QTest::newRow("too long in hours") << "for 35791395 hours" << -1;
-    QTest::newRow("absurdly long") << "for 99999999999999999999999999 hours" << -1;
     QTest::newRow("first match only") << "for 5 min for 2 h" << 5;
     QTest::newRow("no unit") << "Call for 30" << kNoMatch;
     QTest::newRow("unit glued to a word") << "for 5 minutesx" << kNoMatch;
     QTest::newRow("days are no duration") << "for 2 days" << kNoMatch;
-    QTest::newRow("nothing") << "Standup" << kNoMatch;
 }
 
 void TestNLParser::matchDuration()
@@ -366,17 +320,11 @@ void TestNLParser::parse_data()
     QTest::addColumn<bool>("allDay");
     QTest::addColumn<bool>("hasTime");
 
-    QTest::newRow("standup at 14:10") << "Standup" << kFriday << "Standup" << utc(2024, 3, 15, 14, 30)
-                                      << utc(2024, 3, 15, 15, 30) << false << false;
     QTest::newRow("default start on the next day")
         << "Late call" << utc(2024, 3, 15, 23, 50) << "Late call" << utc(2024, 3, 16, 0, 0) << utc(2024, 3, 16, 1, 0)
         << false << false;
     QTest::newRow("review tomorrow") << "Review tomorrow" << kFriday << "Review" << utc(2024, 3, 16) << utc(2024, 3, 17)
                                      << true << false;
-    QTest::newRow("gym next monday") << "Gym next monday at 6am for 1.5 hours" << kFriday << "Gym"
-                                     << utc(2024, 3, 18, 6, 0) << utc(2024, 3, 18, 7, 30) << false << true;
-    QTest::newRow("call mom friday on a friday")
-        << "Call mom friday" << kFriday << "Call mom" << utc(2024, 3, 15) << utc(2024, 3, 16) << true << false;
     QTest::newRow("party jan 40") << "Party jan 40" << kFriday << "Party" << QDateTime() << QDateTime() << true
                                   << false;
     QTest::newRow("from 11pm to 1 ends at 13:00 the next day")
@@ -387,25 +335,17 @@ void TestNLParser::parse_data()
         << "from 9 to 9" << kFriday << "" << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 16, 9, 0) << false << true;
     QTest::newRow("meet at 2460") << "Meet at 2460" << kFriday << "Meet at 2460" << utc(2024, 3, 15, 14, 30)
                                   << utc(2024, 3, 15, 15, 30) << false << false;
-    QTest::newRow("flight at 7") << "Flight at 7" << kFriday << "Flight" << utc(2024, 3, 15, 7, 0)
-                                 << utc(2024, 3, 15, 8, 0) << false << true;
     QTest::newRow("dinner on friday at 7pm") << "Dinner on friday at 7pm" << kMonday << "Dinner"
                                              << utc(2024, 3, 22, 19, 0) << utc(2024, 3, 22, 20, 0) << false << true;
-    QTest::newRow("call for 30 min") << "Call for 30 min" << kFriday << "Call" << utc(2024, 3, 15, 14, 30)
-                                     << utc(2024, 3, 15, 15, 0) << false << false;
     QTest::newRow("lunch with sam") << "Lunch with Sam tomorrow at 12:30 for 45 min" << kFriday << "Lunch with Sam"
                                     << utc(2024, 3, 16, 12, 30) << utc(2024, 3, 16, 13, 15) << false << true;
 
     QTest::newRow("time without date is today") << "Deploy at midnight" << kFriday << "Deploy" << utc(2024, 3, 15, 0, 0)
                                                 << utc(2024, 3, 15, 1, 0) << false << true;
-    QTest::newRow("midnight tomorrow") << "midnight tomorrow" << kFriday << "" << utc(2024, 3, 16, 0, 0)
-                                       << utc(2024, 3, 16, 1, 0) << false << true;
     QTest::newRow("tonight implies no time")
         << "Party tonight" << kFriday << "Party" << utc(2024, 3, 15) << utc(2024, 3, 16) << true << false;
     QTest::newRow("duration ignored for all-day") << "Retreat tomorrow for 3 hours" << kFriday << "Retreat"
                                                   << utc(2024, 3, 16) << utc(2024, 3, 17) << true << false;
-    QTest::newRow("duration ignored for a range") << "Class from 9 to 10 for 3 hours" << kFriday << "Class"
-                                                  << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 15, 10, 0) << false << true;
     QTest::newRow("zero duration") << "Ping at 9 for 0.01 h" << kFriday << "Ping" << utc(2024, 3, 15, 9, 0)
                                    << utc(2024, 3, 15, 9, 0) << false << true;
     QTest::newRow("impossible time") << "Meet at 25" << kFriday << "Meet" << QDateTime() << QDateTime() << false
@@ -420,14 +360,10 @@ void TestNLParser::parse_data()
                                     << utc(2024, 3, 16, 12, 0) << utc(2024, 3, 16, 13, 0) << false << true;
     QTest::newRow("leading at removed") << "at home tomorrow" << kFriday << "home" << utc(2024, 3, 16)
                                         << utc(2024, 3, 17) << true << false;
-    QTest::newRow("trailing for removed")
-        << "Call Sam for tomorrow" << kFriday << "Call Sam" << utc(2024, 3, 16) << utc(2024, 3, 17) << true << false;
     QTest::newRow("inner for kept") << "Flowers for mom tomorrow" << kFriday << "Flowers for mom" << utc(2024, 3, 16)
                                     << utc(2024, 3, 17) << true << false;
     QTest::newRow("at 1530 at 9 keeps the number")
         << "at 1530 at 9" << kFriday << "1530" << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 15, 10, 0) << false << true;
-    QTest::newRow("cleanup without spans")
-        << "Lunch   at" << kFriday << "Lunch" << utc(2024, 3, 15, 14, 30) << utc(2024, 3, 15, 15, 30) << false << false;
     QTest::newRow("words around a match joined") << "Pick up tomorrow the kids" << kFriday << "Pick up the kids"
                                                  << utc(2024, 3, 16) << utc(2024, 3, 17) << true << false;
 
@@ -494,8 +430,6 @@ void TestNLParser::keepsTheZoneOfTheReference_data()
     // which makes it 03:30 summer time.
     QTest::newRow("skipped time in a zone") << "Brunch tomorrow at 2:30" << berlin(2024, 3, 30, 23, 45)
                                             << utc(2024, 3, 31, 1, 30) << utc(2024, 3, 31, 2, 30);
-    QTest::newRow("skipped end of a range") << "Party from 11pm to 2:30am" << berlin(2024, 3, 30, 12, 0)
-                                            << berlin(2024, 3, 30, 23, 0) << utc(2024, 3, 31, 1, 30);
     QTest::newRow("skipped time in local time") << "sunday at 2:30" << QDateTime(QDate(2024, 3, 30), QTime(12, 0))
                                                 << utc(2024, 3, 31, 1, 30) << utc(2024, 3, 31, 2, 30);
     QTest::newRow("repeated hour") << "Call sunday at 2:30" << berlin(2024, 10, 26, 12, 0)
@@ -586,23 +520,17 @@ void TestNLParser::problem_data()
     QTest::addColumn<QString>("message");
 
     QTest::newRow("fine") << "Lunch tomorrow at noon" << kFriday << "";
-    QTest::newRow("empty line") << "  " << kFriday << "";
     QTest::newRow("jan 40") << "Party jan 40" << kFriday << "\"jan 40\" is not a valid date";
     QTest::newRow("feb 30 as written") << "Party Feb 30 at 8pm" << kFriday << "\"Feb 30\" is not a valid date";
-    QTest::newRow("feb 29 in a common year") << "on feb 29" << utc(2023, 1, 2) << "\"on feb 29\" is not a valid date";
     QTest::newRow("days beyond counting")
         << "in 99999999999999 days" << kFriday << "\"in 99999999999999 days\" is not a valid date";
     QTest::newRow("at 25") << "Meet at 25" << kFriday << "\"at 25\" is not a valid time";
-    QTest::newRow("at 9:75") << "Meet at 9:75" << kFriday << "\"at 9:75\" is not a valid time";
     QTest::newRow("range end") << "Class from 9 to 25" << kFriday << "\"from 9 to 25\" is not a valid time";
-    QTest::newRow("range start") << "Class from 30 to 10" << kFriday << "\"from 30 to 10\" is not a valid time";
     QTest::newRow("duration") << "Nap for 35791395 hours" << kFriday << "\"for 35791395 hours\" is too long";
     QTest::newRow("ignored duration is fine") << "Retreat tomorrow for 99999999999 hours" << kFriday << "";
     QTest::newRow("longest duration is fine") << "Nap for 2147483647 min" << kFriday << "";
     QTest::newRow("year 10000") << "in 3000000 days" << kFriday
                                 << "\"in 3000000 days\" falls outside the years 1 to 9999";
-    QTest::newRow("beyond any date-time")
-        << "in 100000000000 weeks" << kFriday << "\"in 100000000000 weeks\" falls outside the years 1 to 9999";
     QTest::newRow("tomorrow at the end of time")
         << "tomorrow" << utc(9999, 12, 31, 12, 0) << "\"tomorrow\" falls outside the years 1 to 9999";
     QTest::newRow("default start at the end of time")
@@ -667,8 +595,6 @@ void TestNLParser::eventFromLineTitleFallback_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("title");
 
-    QTest::newRow("parsed title") << "Dinner on friday at 7pm"
-                                  << "Dinner";
     QTest::newRow("nothing left: the whole line") << "  tomorrow at 9  "
                                                   << "tomorrow at 9";
     QTest::newRow("only a range") << "from 11pm to 1"
@@ -727,9 +653,6 @@ void TestNLParser::kbcalDryRunJson_data()
                                 << "Review"
                                 << "2024-03-16T00:00:00"
                                 << "2024-03-17T00:00:00" << true << false;
-    QTest::newRow("date as now") << QStringList{"Standup", "--now", "2024-03-15", "--dry-run", "--json"} << "Standup"
-                                 << "2024-03-15T00:00:00"
-                                 << "2024-03-15T01:00:00" << false << false;
     QTest::newRow("words joined with one blank")
         << QStringList{"Lunch",     "with",  "Sam", "--calendar", "work", "--now", "2024-03-15T14:10:00Z",
                        "--dry-run", "--json"}
@@ -799,7 +722,6 @@ void TestNLParser::kbcalErrors_data()
     QTest::newRow("empty text") << QStringList{"", " ", "--dry-run"} << 2 << "kbcal: the text of the event is empty";
     QTest::newRow("bad now") << QStringList{"Standup", "--now", "yesterday", "--dry-run"} << 2
                              << "kbcal: 'yesterday' is not a date or date-time for --now";
-    QTest::newRow("now without value") << QStringList{"Standup", "--now"} << 2 << "kbcal: Missing value after '--now'.";
     QTest::newRow("impossible date") << QStringList{"Party", "jan", "40", "--dry-run", "--json"} << 1
                                      << "kbcal: \"jan 40\" is not a valid date";
     QTest::newRow("impossible time") << QStringList{"Meet at 9:75", "--dry-run"} << 1

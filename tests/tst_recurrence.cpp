@@ -326,40 +326,26 @@ void TestRecurrence::parseRule_data()
     QTest::addColumn<QStringList>("byDay");
 
     QTest::newRow("empty") << QString() << QString() << 1 << 0 << QDateTime() << QStringList();
-    QTest::newRow("plain weekly") << "FREQ=WEEKLY"
-                                  << "WEEKLY" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("lower case") << "freq=daily;interval=3;byday=mo,we"
                                 << "DAILY" << 3 << 0 << QDateTime() << QStringList{"MO", "WE"};
     QTest::newRow("interval zero") << "FREQ=DAILY;INTERVAL=0"
                                    << "DAILY" << 1 << 0 << QDateTime() << QStringList();
-    QTest::newRow("interval negative") << "FREQ=DAILY;INTERVAL=-2"
-                                       << "DAILY" << 1 << 0 << QDateTime() << QStringList();
-    QTest::newRow("interval not a number") << "FREQ=DAILY;INTERVAL=two"
-                                           << "DAILY" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("count negative") << "FREQ=DAILY;COUNT=-5"
                                     << "DAILY" << 1 << 0 << QDateTime() << QStringList();
-    QTest::newRow("count not a number") << "FREQ=DAILY;COUNT=x"
-                                        << "DAILY" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("until utc") << "FREQ=DAILY;UNTIL=20240110T083000Z"
                                << "DAILY" << 1 << 0 << utc(2024, 1, 10, 8, 30) << QStringList();
     QTest::newRow("until floating is utc") << "FREQ=DAILY;UNTIL=20240110T083000"
                                            << "DAILY" << 1 << 0 << utc(2024, 1, 10, 8, 30) << QStringList();
-    QTest::newRow("until floating in a local gap") << "UNTIL=20240331T023000"
-                                                   << "" << 1 << 0 << utc(2024, 3, 31, 2, 30) << QStringList();
     QTest::newRow("until date only is utc midnight") << "FREQ=DAILY;UNTIL=20240110"
                                                      << "DAILY" << 1 << 0 << utc(2024, 1, 10) << QStringList();
     QTest::newRow("until date with Z unreadable") << "UNTIL=20240110Z"
                                                   << "" << 1 << 0 << QDateTime() << QStringList();
-    QTest::newRow("until impossible date") << "UNTIL=20230229T000000Z"
-                                           << "" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("until garbage") << "UNTIL=soon"
                                    << "" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("byday items kept as text") << "FREQ=WEEKLY;BYDAY=1mo,-1FR,,su"
                                               << "WEEKLY" << 1 << 0 << QDateTime() << QStringList{"1MO", "-1FR", "SU"};
     QTest::newRow("empty pieces, no equals, key missing") << ";;FREQ=MONTHLY;;garbage;=5;COUNT=4;"
                                                           << "MONTHLY" << 1 << 4 << QDateTime() << QStringList();
-    QTest::newRow("unknown keys ignored") << "FREQ=YEARLY;WKST=SU;BYMONTHDAY=5;BYMONTH=3;BYSETPOS=1"
-                                          << "YEARLY" << 1 << 0 << QDateTime() << QStringList();
     QTest::newRow("later piece wins") << "COUNT=3;FREQ=DAILY;COUNT=7"
                                       << "DAILY" << 1 << 7 << QDateTime() << QStringList();
     QTest::newRow("value keeps further equals") << "FREQ=DAILY=X"
@@ -395,27 +381,11 @@ void TestRecurrence::compiledRuleAgreesWithParsedRule()
     const QStringList keys{u"FREQ"_s,  u"freq"_s,  u"INTERVAL"_s, u"Interval"_s, u"COUNT"_s,
                            u"UNTIL"_s, u"BYDAY"_s, u"byday"_s,    u"WKST"_s,     QString::fromUtf8("\u0131NTERVAL"),
                            QString()};
-    const QStringList values{u"DAILY"_s,
-                             u"weekly"_s,
-                             u"Monthly"_s,
-                             u"YEARLY"_s,
-                             u"HOURLY"_s,
-                             u"0"_s,
-                             u"-3"_s,
-                             u"7"_s,
-                             u"+5"_s,
-                             u" 4"_s,
-                             u"99999999999"_s,
-                             u"20240110"_s,
-                             u"20240110T083000Z"_s,
-                             u"20240110T083000"_s,
-                             u"20240110Z"_s,
-                             u"2024011"_s,
-                             u"MO,we,1FR,,SU"_s,
-                             u"-1SU"_s,
-                             QString::fromUtf8("\u017fa,\u017fu"),
-                             u"x=y"_s,
-                             QString()};
+    // The last value is empty.
+    const QStringList values = QStringLiteral("DAILY|weekly|Monthly|YEARLY|HOURLY|0|-3|7|+5| 4|99999999999|20240110|"
+                                              "20240110T083000Z|20240110T083000|20240110Z|2024011|MO,we,1FR,,SU|-1SU|"
+                                              "\u017fa,\u017fu|x=y|")
+                                   .split(u'|');
     QRandomGenerator rng(7);
     for (int i = 0; i < 4000; ++i) {
         QStringList pieces;
@@ -437,12 +407,8 @@ void TestRecurrence::parseExceptionDates_data()
 
     QTest::newRow("empty") << QString() << QList<QDateTime>();
     QTest::newRow("not json") << "20240105" << QList<QDateTime>();
-    QTest::newRow("json object") << R"({"a":"20240105"})" << QList<QDateTime>();
-    QTest::newRow("empty array") << "[]" << QList<QDateTime>();
     QTest::newRow("date is utc midnight") << R"(["20240105"])" << QList<QDateTime>{utc(2024, 1, 5)};
-    QTest::newRow("date-time with Z") << R"(["20240105T090000Z"])" << QList<QDateTime>{utc(2024, 1, 5, 9)};
     QTest::newRow("date-time without Z is local") << R"(["20240105T100000"])" << QList<QDateTime>{utc(2024, 1, 5, 9)};
-    QTest::newRow("local summer time") << R"(["20240705T100000"])" << QList<QDateTime>{utc(2024, 7, 5, 8)};
     QTest::newRow("unreadable elements dropped")
         << R"(["20240105", 5, "2024-01-06", "20240230", "20240107T250000Z", "20240108TZ", null, "20240109T0900Z"])"
         << QList<QDateTime>{utc(2024, 1, 5)};
@@ -496,8 +462,6 @@ void TestRecurrence::occurrenceStarts_data()
     QTest::addColumn<QStringList>("expected");
 
     // 2024-01-01 is a Monday.
-    QTest::newRow("daily count") << "FREQ=DAILY;COUNT=3" << utc(2024, 1, 1, 9) << utc(2024, 2, 1)
-                                 << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z", "2024-01-03T09:00:00Z"};
     QTest::newRow("range end exclusive") << "FREQ=DAILY" << utc(2024, 1, 1, 9) << utc(2024, 1, 3, 9)
                                          << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z"};
     QTest::newRow("start equal to until emitted")
@@ -512,15 +476,9 @@ void TestRecurrence::occurrenceStarts_data()
     QTest::newRow("daily interval with weekdays")
         << "FREQ=DAILY;INTERVAL=2;BYDAY=MO,TU" << utc(2024, 1, 1, 9) << utc(2024, 1, 20)
         << QStringList{"2024-01-01T09:00:00Z", "2024-01-09T09:00:00Z", "2024-01-15T09:00:00Z"};
-    QTest::newRow("daily unknown weekday items dropped")
-        << "FREQ=DAILY;BYDAY=XX,1MO" << utc(2024, 1, 1, 9) << utc(2024, 1, 3)
-        << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z"};
     QTest::newRow("weekly from wednesday, no monday in first week")
         << "FREQ=WEEKLY;BYDAY=MO,WE,FR;COUNT=4" << utc(2024, 1, 3, 9) << utc(2024, 2, 1)
         << QStringList{"2024-01-03T09:00:00Z", "2024-01-05T09:00:00Z", "2024-01-08T09:00:00Z", "2024-01-10T09:00:00Z"};
-    QTest::newRow("weekly ordinal weekday is plain weekly")
-        << "FREQ=WEEKLY;BYDAY=1MO;COUNT=3" << utc(2024, 1, 3, 9) << utc(2024, 2, 1)
-        << QStringList{"2024-01-03T09:00:00Z", "2024-01-10T09:00:00Z", "2024-01-17T09:00:00Z"};
     QTest::newRow("weekly every other week")
         << "FREQ=WEEKLY;INTERVAL=2;BYDAY=TU,TH;COUNT=4" << utc(2024, 1, 4, 9) << utc(2024, 3, 1)
         << QStringList{"2024-01-04T09:00:00Z", "2024-01-16T09:00:00Z", "2024-01-18T09:00:00Z", "2024-01-30T09:00:00Z"};
@@ -531,9 +489,6 @@ void TestRecurrence::occurrenceStarts_data()
         << "FREQ=MONTHLY;COUNT=5" << utc(2024, 1, 31, 10) << utc(2025, 1, 1)
         << QStringList{"2024-01-31T10:00:00Z", "2024-02-29T10:00:00Z", "2024-03-29T10:00:00Z", "2024-04-29T10:00:00Z",
                        "2024-05-29T10:00:00Z"};
-    QTest::newRow("monthly drift over two months")
-        << "FREQ=MONTHLY;INTERVAL=2;COUNT=4" << utc(2023, 12, 31, 10) << utc(2025, 1, 1)
-        << QStringList{"2023-12-31T10:00:00Z", "2024-02-29T10:00:00Z", "2024-04-29T10:00:00Z", "2024-06-29T10:00:00Z"};
     QTest::newRow("monthly weekdays ignored")
         << "FREQ=MONTHLY;BYDAY=MO;COUNT=3" << utc(2024, 1, 15, 10) << utc(2025, 1, 1)
         << QStringList{"2024-01-15T10:00:00Z", "2024-02-15T10:00:00Z", "2024-03-15T10:00:00Z"};
@@ -548,7 +503,6 @@ void TestRecurrence::occurrenceStarts_data()
         << "FREQ=HOURLY;COUNT=5" << utc(2024, 1, 1, 9) << utc(2023, 1, 1) << QStringList{"2024-01-01T09:00:00Z"};
     QTest::newRow("no frequency gives the start alone")
         << "COUNT=5" << utc(2024, 1, 1, 9) << utc(2025, 1, 1) << QStringList{"2024-01-01T09:00:00Z"};
-    QTest::newRow("range end before start") << "FREQ=DAILY" << utc(2024, 1, 1, 9) << utc(2023, 1, 1) << QStringList();
     QTest::newRow("until before start") << "FREQ=WEEKLY;UNTIL=20231231" << utc(2024, 1, 1, 9) << utc(2025, 1, 1)
                                         << QStringList();
     QTest::newRow("invalid start") << "FREQ=DAILY" << QDateTime() << utc(2025, 1, 1) << QStringList();
@@ -571,10 +525,6 @@ void TestRecurrence::expandSeries_data()
     QTest::addColumn<QStringList>("expected");
 
     const QDateTime monday = utc(2024, 1, 1, 9);
-    QTest::newRow("count over a month") << series(u"FREQ=DAILY;COUNT=3"_s, monday, monday.addSecs(3600))
-                                        << utc(2024, 1, 1) << utc(2024, 2, 1)
-                                        << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z",
-                                                       "2024-01-03T09:00:00Z"};
     QTest::newRow("count counted from the series start")
         << series(u"FREQ=DAILY;COUNT=3"_s, monday, monday.addSecs(3600)) << utc(2024, 1, 3) << utc(2024, 2, 1)
         << QStringList{"2024-01-03T09:00:00Z"};
@@ -586,8 +536,6 @@ void TestRecurrence::expandSeries_data()
     QTest::newRow("exception at the exact instant") << excluded << utc(2024, 1, 1) << utc(2024, 2, 1)
                                                     << QStringList{"2024-01-04T09:00:00Z", "2024-01-06T09:00:00Z"};
     excluded.exception_dates = u"[\"20240105T100000\"]"_s;
-    QTest::newRow("exception in local time") << excluded << utc(2024, 1, 1) << utc(2024, 2, 1)
-                                             << QStringList{"2024-01-04T09:00:00Z", "2024-01-06T09:00:00Z"};
     excluded.exception_dates = u"[\"20240105\"]"_s;
     QTest::newRow("date exception misses a timed occurrence")
         << excluded << utc(2024, 1, 1) << utc(2024, 2, 1)
@@ -614,11 +562,6 @@ void TestRecurrence::expandSeries_data()
                                        << utc(2024, 1, 11) << QStringList{"2024-01-08T00:00:00Z"};
     QTest::newRow("hourly start inside the span") << series(u"FREQ=HOURLY"_s, utc(2024, 1, 10, 9)) << utc(2024, 1, 1)
                                                   << utc(2024, 2, 1) << QStringList{"2024-01-10T09:00:00Z"};
-    QTest::newRow("hourly start outside the span")
-        << series(u"FREQ=HOURLY"_s, utc(2024, 1, 10, 9)) << utc(2024, 2, 1) << utc(2024, 3, 1) << QStringList();
-    QTest::newRow("monthly drift far from the start")
-        << series(u"FREQ=MONTHLY"_s, utc(2021, 1, 31, 10)) << utc(2024, 2, 1) << utc(2024, 5, 1)
-        << QStringList{"2024-02-28T10:00:00Z", "2024-03-28T10:00:00Z", "2024-04-28T10:00:00Z"};
     QTest::newRow("yearly leap day far from the start")
         << series(u"FREQ=YEARLY"_s, utc(2000, 2, 29, 10)) << utc(2024, 1, 1) << utc(2025, 1, 1)
         << QStringList{"2024-02-28T10:00:00Z"};
@@ -728,12 +671,6 @@ void TestRecurrence::wallClockKeptAcrossTransitions_data()
     QTest::newRow("weekly across both changes")
         << "FREQ=WEEKLY;BYDAY=MO" << inBerlin(2023, 10, 23, 9) << utc(2023, 10, 23) << utc(2023, 11, 1)
         << QStringList{"2023-10-23T07:00:00Z", "2023-10-30T08:00:00Z"};
-    QTest::newRow("weekly years later in summer")
-        << "FREQ=WEEKLY;BYDAY=MO,FR" << inBerlin(2019, 1, 7, 9) << utc(2024, 7, 1) << utc(2024, 7, 6)
-        << QStringList{"2024-07-01T07:00:00Z", "2024-07-05T07:00:00Z"};
-    QTest::newRow("monthly") << "FREQ=MONTHLY" << inBerlin(2024, 1, 15, 9) << utc(2024, 1, 1) << utc(2024, 5, 1)
-                             << QStringList{"2024-01-15T08:00:00Z", "2024-02-15T08:00:00Z", "2024-03-15T08:00:00Z",
-                                            "2024-04-15T07:00:00Z"};
     QTest::newRow("local time") << "FREQ=DAILY" << QDateTime(QDate(2024, 3, 1), QTime(9, 0), Qt::LocalTime)
                                 << utc(2024, 3, 30) << utc(2024, 4, 1)
                                 << QStringList{"2024-03-30T08:00:00Z", "2024-03-31T07:00:00Z"};

@@ -94,32 +94,10 @@ void TestSampleData::eventsSitAroundToday_data()
                                      << "Sprint retrospective" << -1 << "";
     QTest::newRow("today-deadline") << "today-deadline"
                                     << "Project Phoenix deadline" << 0 << "";
-    QTest::newRow("today-run") << "today-run"
-                               << "Morning run" << 0 << "";
-    QTest::newRow("today-standup") << "today-standup"
-                                   << "Team standup" << 0 << "FREQ=DAILY;BYDAY=MO,TU,WE,TH,FR";
-    QTest::newRow("today-design") << "today-design"
-                                  << "Design review" << 0 << "";
     QTest::newRow("today-lunch") << "today-lunch"
                                  << "Lunch with Sarah" << 0 << "";
-    QTest::newRow("today-sprint") << "today-sprint"
-                                  << "Sprint planning" << 0 << "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,WE,FR";
-    QTest::newRow("today-yoga") << "today-yoga"
-                                << "Yoga class" << 0 << "";
-    QTest::newRow("today-date") << "today-date"
-                                << "Date night" << 0 << "";
-    QTest::newRow("tom-client") << "tom-client"
-                                << "Client presentation" << 1 << "";
     QTest::newRow("tom-dentist") << "tom-dentist"
                                  << "Dentist appointment" << 1 << "FREQ=WEEKLY";
-    QTest::newRow("d2-1on1") << "d2-1on1"
-                             << "1:1 with manager" << 2 << "";
-    QTest::newRow("d2-pickup") << "d2-pickup"
-                               << "Pick up kids" << 2 << "FREQ=WEEKLY;BYDAY=MO,WE,FR";
-    QTest::newRow("d3-bookclub") << "d3-bookclub"
-                                 << "Book club" << 3 << "FREQ=MONTHLY;BYDAY=1TH";
-    QTest::newRow("d5-happy-hour") << "d5-happy-hour"
-                                   << "Happy hour" << 5 << "";
     QTest::newRow("d5-birthday") << "d5-birthday"
                                  << "Emma's birthday party" << 5 << "";
     QTest::newRow("d2-redeye") << "d2-redeye"

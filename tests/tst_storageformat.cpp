@@ -32,7 +32,6 @@ private slots:
     void stringLists();
     void intLists();
     void newIdsAreBracelessUuids();
-    void recordDefaults();
     void clockCanBePinned();
     void readingMatchesTheGeneralParser_data();
     void readingMatchesTheGeneralParser();
@@ -62,11 +61,8 @@ void TestStorageFormat::dateTimeText_data()
     QTest::addColumn<QString>("text");
     const QDate d(2025, 3, 14);
     QTest::newRow("utc") << QDateTime(d, QTime(9, 30), Qt::UTC) << "2025-03-14T09:30:00Z";
-    QTest::newRow("utc zone object") << QDateTime(d, QTime(9, 30), QTimeZone::utc()) << "2025-03-14T09:30:00Z";
     QTest::newRow("zone winter") << QDateTime(d, QTime(10, 30), QTimeZone("Europe/Berlin"))
                                  << "2025-03-14T10:30:00+01:00";
-    QTest::newRow("zone summer") << QDateTime(QDate(2025, 7, 1), QTime(10, 30), QTimeZone("Europe/Berlin"))
-                                 << "2025-07-01T10:30:00+02:00";
     QTest::newRow("offset") << QDateTime(d, QTime(10, 30), QTimeZone(-5 * 3600)) << "2025-03-14T10:30:00-05:00";
     QTest::newRow("floating local") << QDateTime(d, QTime(10, 30)) << "2025-03-14T10:30:00";
     QTest::newRow("milliseconds dropped") << QDateTime(d, QTime(9, 30, 5, 999), Qt::UTC) << "2025-03-14T09:30:05Z";
@@ -173,6 +169,7 @@ void TestStorageFormat::intLists()
     QCOMPARE(intListJson({}), QStringLiteral("[]"));
     QCOMPARE(parseIntListJson(QStringLiteral("[15,60]")), (QList<qint32>{15, 60}));
     QCOMPARE(parseIntListJson(QStringLiteral("not json")), QList<qint32>{});
+    QCOMPARE(parseIntListJson(QStringLiteral("[1,\"2\",null,3]")), (QList<qint32>{1, 3}));
     QCOMPARE(parseStringListJson(QStringLiteral("{\"a\":1}")), QStringList{});
     QCOMPARE(parseStringListJson(QStringLiteral("[\"a\",3,\"b\"]")), (QStringList{"a", "", "b"}));
 }
@@ -185,27 +182,6 @@ void TestStorageFormat::newIdsAreBracelessUuids()
     const QString b = newId();
     QVERIFY2(form.match(a).hasMatch(), qPrintable(a));
     QVERIFY(a != b);
-}
-
-void TestStorageFormat::recordDefaults()
-{
-    const Event event;
-    QCOMPARE(event.timezone, QStringLiteral("UTC"));
-    QCOMPARE(event.status, QStringLiteral("confirmed"));
-    QCOMPARE(event.sync_status, QStringLiteral("synced"));
-    QCOMPARE(event.sequence, 0);
-    QVERIFY(!event.is_all_day && !event.end_time && !event.deleted_at);
-    QVERIFY(!event.start_time.isValid() && !event.created.isValid());
-
-    const Task task;
-    QCOMPARE(task.status, QStringLiteral("needs-action"));
-    QCOMPARE(task.repeat_mode, QStringLiteral("fromDueDate"));
-    QVERIFY(task.due_is_date_only && task.start_is_date_only);
-    QVERIFY(!task.due_date && !task.start_date && !task.completed_date);
-
-    const Template preset;
-    QCOMPARE(intListJson(preset.reminders), QStringLiteral("[15]"));
-    QCOMPARE(preset.duration_minutes, 60);
 }
 
 void TestStorageFormat::clockCanBePinned()
@@ -225,19 +201,15 @@ void TestStorageFormat::readingMatchesTheGeneralParser_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("utc") << "2025-03-14T09:30:00Z";
     QTest::newRow("east of utc") << "2025-03-14T10:30:00+01:00";
-    QTest::newRow("west of utc") << "2025-07-01T10:30:00-04:00";
     QTest::newRow("half-hour offset") << "2025-07-01T10:30:00+05:30";
-    QTest::newRow("zero offset") << "2025-07-01T10:30:00+00:00";
     QTest::newRow("floating") << "2025-03-14T10:30:00";
     QTest::newRow("floating in the spring gap") << "2025-03-30T02:30:00";
     QTest::newRow("leap day") << "2024-02-29T23:59:59Z";
     QTest::newRow("no leap day") << "2025-02-29T10:00:00Z";
     QTest::newRow("hour 24") << "2025-03-14T24:00:00Z";
-    QTest::newRow("minute 60") << "2025-03-14T10:60:00Z";
     QTest::newRow("fraction") << "2025-03-14T09:30:00.250Z";
+    QTest::newRow("offset hour 24") << "2025-03-14T10:30:00+24:00";
     QTest::newRow("offset without colon") << "2025-03-14T10:30:00+0100";
-    QTest::newRow("lower-case z") << "2025-03-14T09:30:00z";
-    QTest::newRow("letters") << "2025-0a-14T09:30:00Z";
     QTest::newRow("date only") << "2025-03-14";
     QTest::newRow("minutes only") << "2025-03-14T09:30Z";
     QTest::newRow("sqlite default") << "2025-03-14 09:30:00";

@@ -61,7 +61,6 @@ private slots:
     void changeSignalIsCoalesced();
     void completion_data();
     void completion();
-    void completionOfUnknownTask();
 
 private:
     StoreFixture m_store;
@@ -145,10 +144,8 @@ void TestTaskRepository::categoriesColumn_data()
     QTest::addColumn<QStringList>("read");
 
     QTest::newRow("strings") << R"(["a","b"])" << QStringList{"a", "b"};
-    QTest::newRow("empty array") << "[]" << QStringList();
     QTest::newRow("non-string element reads empty") << R"(["a",7,null])" << QStringList{"a", "", ""};
     QTest::newRow("object") << R"({"a":1})" << QStringList();
-    QTest::newRow("not json") << "a,b" << QStringList();
     QTest::newRow("empty text") << "" << QStringList();
 }
 
@@ -196,8 +193,6 @@ void TestTaskRepository::range_data()
 
     QTest::newRow("every calendar") << QStringList() << QStringList{"starts-inside", "due-at-start", "due-inside", "b"};
     QTest::newRow("one calendar") << QStringList{"cal-a"} << QStringList{"starts-inside", "due-at-start", "due-inside"};
-    QTest::newRow("two calendars") << QStringList{"cal-a", "cal-b"}
-                                   << QStringList{"starts-inside", "due-at-start", "due-inside", "b"};
 }
 
 void TestTaskRepository::range()
@@ -305,6 +300,8 @@ void TestTaskRepository::markSyncedSendsNoSignal()
     QCOMPARE(back.href, QStringLiteral("/dav/t.ics"));
     QCOMPARE(back.etag, QStringLiteral("\"1\""));
     QVERIFY(!m_repo->markSynced(QStringLiteral("missing"), QString(), QString()));
+    QVERIFY(!m_repo->setCompleted(QStringLiteral("missing"), true));
+    QVERIFY(!spy.wait(300));
 }
 
 void TestTaskRepository::changeSignalIsCoalesced()
@@ -349,10 +346,6 @@ void TestTaskRepository::completion_data()
         << "FREQ=WEEKLY"
         << "fromDueDate" << monday << true << none << "needs-action" << true << "needs-action" << monday.addDays(7)
         << none << "DUE;VALUE=DATE:20250317";
-    QTest::newRow("weekly from due date, timed")
-        << "FREQ=WEEKLY"
-        << "fromDueDate" << mondayNine << false << none << "needs-action" << true << "needs-action"
-        << mondayNine.addDays(7) << none << "DUE:20250317T090000Z";
     QTest::newRow("weekly from completion date")
         << "FREQ=WEEKLY"
         << "fromCompletionDate" << monday << true << none << "needs-action" << true << "needs-action"
@@ -365,9 +358,6 @@ void TestTaskRepository::completion_data()
         << "FREQ=DAILY"
         << "fromCompletionDate" << mondayNine << false << none << "needs-action" << true << "needs-action"
         << QDateTime(QDate(2025, 3, 14), QTime(15, 30), berlin) << none << "DUE:20250314T143000Z";
-    QTest::newRow("monthly") << "FREQ=MONTHLY"
-                             << "fromDueDate" << monday << true << none << "needs-action" << true << "needs-action"
-                             << utc(QStringLiteral("2025-04-10T00:00:00")) << none << "DUE;VALUE=DATE:20250410";
     QTest::newRow("start date when there is no due date") << "FREQ=DAILY;INTERVAL=2"
                                                           << "fromDueDate" << none << true << monday << "needs-action"
                                                           << true << "needs-action" << none << monday.addDays(2) << "";
@@ -380,9 +370,6 @@ void TestTaskRepository::completion_data()
     QTest::newRow("already completed") << "FREQ=WEEKLY"
                                        << "fromDueDate" << monday << true << none << "completed" << true << "completed"
                                        << monday << none << "DUE;VALUE=DATE:20250310";
-    QTest::newRow("reopen recurring") << "FREQ=WEEKLY"
-                                      << "fromDueDate" << monday << true << none << "completed" << false
-                                      << "needs-action" << monday << none << "DUE;VALUE=DATE:20250310";
 }
 
 void TestTaskRepository::completion()
@@ -443,13 +430,6 @@ void TestTaskRepository::completion()
     QVERIFY2(text.contains(QStringLiteral("\r\nSEQUENCE:3\r\n")), qPrintable(text));
     if (!dueLine.isEmpty())
         QVERIFY2(text.contains(QStringLiteral("\r\n") + dueLine + QStringLiteral("\r\n")), qPrintable(text));
-}
-
-void TestTaskRepository::completionOfUnknownTask()
-{
-    QSignalSpy spy(m_repo.get(), &TaskRepository::tasksChanged);
-    QVERIFY(!m_repo->setCompleted(QStringLiteral("missing"), true));
-    QVERIFY(!spy.wait(300));
 }
 
 QTEST_GUILESS_MAIN(TestTaskRepository)

@@ -108,7 +108,14 @@ void Database::migrate()
 
 bool Database::applyMigration(const Migration &migration, const QString &script)
 {
-    m_db.transaction();
+    // A migration that cannot run inside its own transaction must not run at all: half of a script applied
+    // without a way back would leave the schema in a state no later start can repair.
+    if (!m_db.transaction()) {
+        m_lastError = m_db.lastError().text();
+        qCCritical(lcDatabase).noquote() << "Migration" << migration.version << "failed:" << m_lastError;
+        emit migrationError(migration.version, m_lastError);
+        return false;
+    }
     const QStringList statements = splitStatements(script);
     QSqlQuery query(m_db);
     for (const QString &statement : statements) {
@@ -133,7 +140,13 @@ bool Database::applyMigration(const Migration &migration, const QString &script)
         return false;
     }
     query.finish();
-    m_db.commit();
+    if (!m_db.commit()) {
+        m_lastError = m_db.lastError().text();
+        qCCritical(lcDatabase).noquote() << "Migration" << migration.version << "failed:" << m_lastError;
+        m_db.rollback();
+        emit migrationError(migration.version, m_lastError);
+        return false;
+    }
     qCInfo(lcDatabase).noquote() << "Applied migration" << migration.version << migration.name;
     emit migrationApplied(migration.version, migration.name);
     return true;
