@@ -53,3 +53,8 @@ QT_LOGGING_RULES="*.info=false" "$build/bin/bench_spanquery" "$calendar"
 # The day/week view: the first visit of a week and steps to the next one, offscreen.
 echo "== bench_timeline"
 QT_LOGGING_RULES="*.info=false" "$build/bin/bench_timeline" "$calendar"
+
+# The whole main window over the calendar: first paint, then steps between weeks and months, both
+# with the neighbours prepared and cold after a change.
+echo "== bench_navigation"
+QT_LOGGING_RULES="*.info=false" "$build/bin/bench_navigation" --ics "$calendar"
