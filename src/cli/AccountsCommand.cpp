@@ -30,16 +30,17 @@ QString stateOf(const Account &account)
 
 } // namespace
 
-CommandSpec accountsCommand()
+CommandDefinition accountsCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("accounts")};
-    spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = Text::tr("List the accounts.");
-    spec.description = Text::tr("Lists the accounts (calendar sources) in the order the desktop program shows them. "
-                                "Removed accounts whose removal has not been synced yet are not listed. With --json, "
-                                "prints the account records.");
-    spec.run = [](CommandContext &context) {
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("accounts")};
+    definition.synopsis = QStringLiteral("[--json]");
+    definition.summary = Text::tr("List the accounts.");
+    definition.description
+        = Text::tr("Lists the accounts (calendar sources) in the order the desktop program shows them. "
+                   "Removed accounts whose removal has not been synced yet are not listed. With --json, "
+                   "prints the account records.");
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -61,5 +62,5 @@ CommandSpec accountsCommand()
         table.print(context.out());
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -49,28 +49,28 @@ void printParse(CommandContext &context, const NLParser::ParseResult &result)
 
 } // namespace
 
-CommandSpec addCommand()
+CommandDefinition addCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("add")};
-    spec.synopsis = QStringLiteral("TEXT... [--calendar ID] [--now T] [--dry-run] [--json]");
-    spec.summary = Text::tr("Add an event from one line of text (quick-add).");
-    spec.description = Text::tr(
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("add")};
+    definition.synopsis = QStringLiteral("TEXT... [--calendar ID] [--now T] [--dry-run] [--json]");
+    definition.summary = Text::tr("Add an event from one line of text (quick-add).");
+    definition.description = Text::tr(
         "Joins the words into one line and reads it as the desktop quick-add box does, for example:\n"
         "  kbcal add Lunch with Sam tomorrow at 12:30 for 45 min\n"
         "T is an ISO 8601 date-time (2024-01-05T09:00:00Z, 2024-01-05T10:00:00+01:00, or local time without "
         "an offset) or a date (2024-01-05, local midnight). With --dry-run nothing is stored and the reading "
         "is printed. Put -- before the text when one of its words begins with a dash.");
-    spec.options = {
+    definition.options = {
         QCommandLineOption(QStringLiteral("calendar"), Text::tr("Add the event to the calendar with this id."),
                            QStringLiteral("ID")),
         QCommandLineOption(QStringLiteral("now"), Text::tr("Read the text as if it were this time (default: now)."),
                            QStringLiteral("T")),
         QCommandLineOption(QStringLiteral("dry-run"), Text::tr("Print how the text is read; store nothing.")),
     };
-    spec.minArguments = 1;
-    spec.maxArguments = -1;
-    spec.run = [](CommandContext &context) {
+    definition.minArguments = 1;
+    definition.maxArguments = -1;
+    definition.run = [](CommandContext &context) {
         const QString line = context.arguments().join(QLatin1Char(' '));
         if (line.trimmed().isEmpty())
             return context.usageError(Text::tr("the text of the event is empty"));
@@ -115,5 +115,5 @@ CommandSpec addCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -133,18 +133,18 @@ QJsonObject toJson(const SpanContents &span)
 
 } // namespace
 
-CommandSpec agendaCommand()
+CommandDefinition agendaCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("agenda")};
-    spec.synopsis = QStringLiteral("[--from D] [--to D | --days N] [--calendar ID]... [--json]");
-    spec.summary = Text::tr("Show the events of a span of days.");
-    spec.description = Text::tr(
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("agenda")};
+    definition.synopsis = QStringLiteral("[--from D] [--to D | --days N] [--calendar ID]... [--json]");
+    definition.summary = Text::tr("Show the events of a span of days.");
+    definition.description = Text::tr(
         "Shows the occurrences of the stored events from --from (default: today at 00:00 local time) up to, not "
         "including, --to, or for --days days (default: 7), exactly as the calendar views show them: recurring "
         "events expanded, and the enabled filter rules applied (hidden events are counted, dimmed ones marked). "
         "A date without a time is local midnight. Without --calendar, the visible calendars are shown.");
-    spec.options = {
+    definition.options = {
         QCommandLineOption(QStringLiteral("from"), Text::tr("Start of the span (date or date-time)."),
                            QStringLiteral("D")),
         QCommandLineOption(QStringLiteral("to"), Text::tr("End of the span, not included (date or date-time)."),
@@ -154,7 +154,7 @@ CommandSpec agendaCommand()
         QCommandLineOption(QStringLiteral("calendar"), Text::tr("Show this calendar (repeatable)."),
                            QStringLiteral("ID")),
     };
-    spec.run = [](CommandContext &context) {
+    definition.run = [](CommandContext &context) {
         QCommandLineParser &parser = context.parser();
         QDateTime from = Clock::nowLocal().date().startOfDay();
         if (parser.isSet(QStringLiteral("from"))) {
@@ -222,5 +222,5 @@ CommandSpec agendaCommand()
             printText(context, span, calendarNames);
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -38,15 +38,16 @@ QString flagsOf(const Calendar &calendar)
 
 } // namespace
 
-CommandSpec calendarsCommand()
+CommandDefinition calendarsCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("calendars")};
-    spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = Text::tr("List the calendars.");
-    spec.description = Text::tr("Lists every calendar in the order the desktop program shows them, with its account, "
-                                "colour and state. With --json, prints the calendar records.");
-    spec.run = [](CommandContext &context) {
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("calendars")};
+    definition.synopsis = QStringLiteral("[--json]");
+    definition.summary = Text::tr("List the calendars.");
+    definition.description
+        = Text::tr("Lists every calendar in the order the desktop program shows them, with its account, "
+                   "colour and state. With --json, prints the calendar records.");
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -71,5 +72,5 @@ CommandSpec calendarsCommand()
         table.print(context.out());
         return 0;
     };
-    return spec;
+    return definition;
 }

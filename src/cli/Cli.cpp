@@ -65,11 +65,11 @@ bool Cli::verboseLogging()
     return s_verbose;
 }
 
-QString Cli::usageLine(const CommandSpec &spec)
+QString Cli::usageLine(const CommandDefinition &definition)
 {
-    QString line = QStringLiteral("Usage: kbcal [--data-dir DIR] ") + spec.name();
-    if (!spec.synopsis.isEmpty())
-        line += QLatin1Char(' ') + spec.synopsis;
+    QString line = QStringLiteral("Usage: kbcal [--data-dir DIR] ") + definition.name();
+    if (!definition.synopsis.isEmpty())
+        line += QLatin1Char(' ') + definition.synopsis;
     return line;
 }
 
@@ -101,12 +101,12 @@ int Cli::run(const QStringList &arguments)
         return generalUsageError(Text::tr("missing command"));
 
     // The longest list of command words that matches the start of the line.
-    const CommandSpec *found = nullptr;
-    for (const CommandSpec &spec : allCommands()) {
-        if (rest.size() < spec.words.size() || (found && found->words.size() >= spec.words.size()))
+    const CommandDefinition *found = nullptr;
+    for (const CommandDefinition &definition : allCommands()) {
+        if (rest.size() < definition.words.size() || (found && found->words.size() >= definition.words.size()))
             continue;
-        if (rest.mid(0, spec.words.size()) == spec.words)
-            found = &spec;
+        if (rest.mid(0, definition.words.size()) == definition.words)
+            found = &definition;
     }
     if (!found) {
         QString attempted = rest.constFirst();
@@ -121,25 +121,25 @@ int Cli::run(const QStringList &arguments)
     return runCommand(*found, commandArguments);
 }
 
-int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments)
+int Cli::runCommand(const CommandDefinition &definition, const QStringList &commandArguments)
 {
     QCommandLineParser parser;
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
-    parser.addOptions(spec.options);
-    if (spec.acceptsJson)
+    parser.addOptions(definition.options);
+    if (definition.acceptsJson)
         parser.addOption(jsonOption());
     parser.addOption(progressOption());
     parser.addOption(dataDirOption());
     parser.addOption(helpOption());
 
     if (!parser.parse(QStringList{QStringLiteral("kbcal")} + commandArguments)) {
-        m_err << "kbcal: " << parser.errorText() << '\n' << usageLine(spec) << Qt::endl;
+        m_err << "kbcal: " << parser.errorText() << '\n' << usageLine(definition) << Qt::endl;
         return 2;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        m_out << usageLine(spec) << "\n\n" << spec.description << "\n\n" << Text::tr("Options:") << '\n';
-        QList<QCommandLineOption> options = spec.options;
-        if (spec.acceptsJson)
+        m_out << usageLine(definition) << "\n\n" << definition.description << "\n\n" << Text::tr("Options:") << '\n';
+        QList<QCommandLineOption> options = definition.options;
+        if (definition.acceptsJson)
             options.append(jsonOption());
         options << progressOption() << dataDirOption() << helpOption();
         for (const QCommandLineOption &option : std::as_const(options))
@@ -149,14 +149,14 @@ int Cli::runCommand(const CommandSpec &spec, const QStringList &commandArguments
     }
 
     const bool progress = parser.isSet(QStringLiteral("progress")) || m_stderrIsTerminal;
-    CommandContext context(spec, parser, m_out, m_err, m_in, progress);
+    CommandContext context(definition, parser, m_out, m_err, m_in, progress);
     const int count = parser.positionalArguments().size();
-    if (count < spec.minArguments)
+    if (count < definition.minArguments)
         return context.usageError(Text::tr("missing argument"));
-    if (spec.maxArguments >= 0 && count > spec.maxArguments)
+    if (definition.maxArguments >= 0 && count > definition.maxArguments)
         return context.usageError(
-            Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().at(spec.maxArguments)));
-    const int status = spec.run(context);
+            Text::tr("unexpected argument '%1'").arg(parser.positionalArguments().at(definition.maxArguments)));
+    const int status = definition.run(context);
     m_out.flush();
     m_err.flush();
     return status;
@@ -168,8 +168,8 @@ int Cli::printGeneralHelp()
           << Text::tr("The command-line companion of Kettlebrook Calendar: the same calendar store, from a terminal.")
           << "\n\n"
           << Text::tr("Commands:") << '\n';
-    for (const CommandSpec &spec : allCommands())
-        m_out << "  " << spec.name().leftJustified(20) << ' ' << spec.summary << '\n';
+    for (const CommandDefinition &definition : allCommands())
+        m_out << "  " << definition.name().leftJustified(20) << ' ' << definition.summary << '\n';
     m_out << '\n'
           << Text::tr("Global options:") << '\n'
           << "  --data-dir DIR        "

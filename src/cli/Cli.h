@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTextStream>
 
-struct CommandSpec;
+struct CommandDefinition;
 class QIODevice;
 
 // The kbcal front end: parses the global options, finds the command, parses its options and runs
@@ -20,14 +20,14 @@ public:
     int run(const QStringList &arguments);
 
     // "Usage: kbcal [--data-dir DIR] COMMAND SYNOPSIS".
-    static QString usageLine(const CommandSpec &spec);
+    static QString usageLine(const CommandDefinition &definition);
     // True once a command line asked for the program's log output (--verbose).
     static bool verboseLogging();
 
 private:
     int printGeneralHelp();
     int generalUsageError(const QString &message);
-    int runCommand(const CommandSpec &spec, const QStringList &commandArguments);
+    int runCommand(const CommandDefinition &definition, const QStringList &commandArguments);
 
     QTextStream &m_out;
     QTextStream &m_err;

@@ -4,7 +4,7 @@
 #include "app/AppEnvironment.h"
 #include "app/AppState.h"
 #include "cli/Cli.h"
-#include "cli/CommandSpec.h"
+#include "cli/CommandDefinition.h"
 #include "storage/Database.h"
 
 #include <QCoreApplication>
@@ -14,9 +14,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-CommandContext::CommandContext(const CommandSpec &spec, QCommandLineParser &parser, QTextStream &out, QTextStream &err,
-                               QIODevice *in, bool progressWanted)
-    : m_spec(spec)
+CommandContext::CommandContext(const CommandDefinition &definition, QCommandLineParser &parser, QTextStream &out,
+                               QTextStream &err, QIODevice *in, bool progressWanted)
+    : m_definition(definition)
     , m_parser(parser)
     , m_out(out)
     , m_err(err)
@@ -28,7 +28,7 @@ CommandContext::~CommandContext() = default;
 
 bool CommandContext::json() const
 {
-    return m_spec.acceptsJson && m_parser.isSet(QStringLiteral("json"));
+    return m_definition.acceptsJson && m_parser.isSet(QStringLiteral("json"));
 }
 
 QString CommandContext::dataDirectory() const
@@ -84,7 +84,7 @@ int CommandContext::fail(const QString &message)
 
 int CommandContext::usageError(const QString &message)
 {
-    m_err << "kbcal: " << message << '\n' << Cli::usageLine(m_spec) << Qt::endl;
+    m_err << "kbcal: " << message << '\n' << Cli::usageLine(m_definition) << Qt::endl;
     return 2;
 }
 

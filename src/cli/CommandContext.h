@@ -11,18 +11,18 @@
 
 class AppState;
 class Database;
-struct CommandSpec;
+struct CommandDefinition;
 
 // What a running command sees: its parsed options and arguments, the three streams, and the
 // calendar store, opened on first use exactly as the desktop program opens it.
 class CommandContext
 {
 public:
-    CommandContext(const CommandSpec &spec, QCommandLineParser &parser, QTextStream &out, QTextStream &err,
+    CommandContext(const CommandDefinition &definition, QCommandLineParser &parser, QTextStream &out, QTextStream &err,
                    QIODevice *in, bool progressWanted);
     ~CommandContext();
 
-    const CommandSpec &spec() const { return m_spec; }
+    const CommandDefinition &definition() const { return m_definition; }
     QCommandLineParser &parser() { return m_parser; }
     QStringList arguments() const { return m_parser.positionalArguments(); }
     bool json() const;
@@ -50,7 +50,7 @@ public:
     void printJson(const QJsonValue &value);
 
 private:
-    const CommandSpec &m_spec;
+    const CommandDefinition &m_definition;
     QCommandLineParser &m_parser;
     QTextStream &m_out;
     QTextStream &m_err;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
 
-const QList<CommandSpec> &allCommands()
+const QList<CommandDefinition> &allCommands()
 {
-    static const QList<CommandSpec> commands = {
+    static const QList<CommandDefinition> commands = {
         initCommand(),          icsParseCommand(),         icsExpandCommand(),
         addCommand(),           agendaCommand(),           calendarsCommand(),
         accountsCommand(),      importCommand(),           exportCommand(),

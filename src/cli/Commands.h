@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/CommandSpec.h"
+#include "cli/CommandDefinition.h"
 
 // Every command of kbcal, in the order `kbcal --help` lists them.
-const QList<CommandSpec> &allCommands();
+const QList<CommandDefinition> &allCommands();
 
 // One function per command, each in its own source file.
-CommandSpec initCommand();
-CommandSpec icsParseCommand();
-CommandSpec addCommand();
-CommandSpec agendaCommand();
-CommandSpec icsExpandCommand();
-CommandSpec sampleDataAddCommand();
-CommandSpec sampleDataRemoveCommand();
-CommandSpec taskCompleteCommand();
-CommandSpec taskReopenCommand();
-CommandSpec tasksCommand();
-CommandSpec importCommand();
-CommandSpec exportCommand();
-CommandSpec calendarsCommand();
-CommandSpec accountsCommand();
+CommandDefinition initCommand();
+CommandDefinition icsParseCommand();
+CommandDefinition addCommand();
+CommandDefinition agendaCommand();
+CommandDefinition icsExpandCommand();
+CommandDefinition sampleDataAddCommand();
+CommandDefinition sampleDataRemoveCommand();
+CommandDefinition taskCompleteCommand();
+CommandDefinition taskReopenCommand();
+CommandDefinition tasksCommand();
+CommandDefinition importCommand();
+CommandDefinition exportCommand();
+CommandDefinition calendarsCommand();
+CommandDefinition accountsCommand();

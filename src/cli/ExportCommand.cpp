@@ -73,20 +73,21 @@ void appendComponents(QByteArray &out, const QByteArray &object, QSet<QByteArray
 
 } // namespace
 
-CommandSpec exportCommand()
+CommandDefinition exportCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("export")};
-    spec.synopsis = QStringLiteral("[--calendar ID]...");
-    spec.summary = Text::tr("Write the stored events as one iCalendar object.");
-    spec.description = Text::tr("Writes the events of the named calendars (every calendar when none is named) to "
-                                "standard output as one iCalendar object, each event in the text it was stored with.");
-    spec.options = {
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("export")};
+    definition.synopsis = QStringLiteral("[--calendar ID]...");
+    definition.summary = Text::tr("Write the stored events as one iCalendar object.");
+    definition.description
+        = Text::tr("Writes the events of the named calendars (every calendar when none is named) to "
+                   "standard output as one iCalendar object, each event in the text it was stored with.");
+    definition.options = {
         QCommandLineOption(QStringLiteral("calendar"), Text::tr("Export the calendar ID (may be repeated)."),
                            QStringLiteral("ID")),
     };
-    spec.acceptsJson = false;
-    spec.run = [](CommandContext &context) {
+    definition.acceptsJson = false;
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -117,5 +118,5 @@ CommandSpec exportCommand()
         context.out().flush();
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -49,24 +49,24 @@ QList<Event> rowsForSpan(const QList<Event> &events, const QDateTime &from, cons
 
 } // namespace
 
-CommandSpec icsExpandCommand()
+CommandDefinition icsExpandCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("ics"), QStringLiteral("expand")};
-    spec.synopsis = QStringLiteral("[FILE|-] --from T --to T [--json]");
-    spec.summary = Text::tr("Expand the events of iCalendar text over a span.");
-    spec.description
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("ics"), QStringLiteral("expand")};
+    definition.synopsis = QStringLiteral("[FILE|-] --from T --to T [--json]");
+    definition.summary = Text::tr("Expand the events of iCalendar text over a span.");
+    definition.description
         = Text::tr("Reads iCalendar text from FILE, or from standard input when FILE is '-' or absent, and "
                    "lists the occurrences of its events in the span [--from, --to) exactly as the calendar "
                    "views show them: single events first, then each series' occurrences with changed "
                    "occurrences in place. T is an ISO 8601 date-time or a date (local midnight). No "
                    "database is used.");
-    spec.options = {
+    definition.options = {
         QCommandLineOption(QStringLiteral("from"), Text::tr("Start of the span (included)."), QStringLiteral("T")),
         QCommandLineOption(QStringLiteral("to"), Text::tr("End of the span (excluded)."), QStringLiteral("T")),
     };
-    spec.maxArguments = 1;
-    spec.run = [](CommandContext &context) {
+    definition.maxArguments = 1;
+    definition.run = [](CommandContext &context) {
         const QCommandLineParser &parser = context.parser();
         if (!parser.isSet(QStringLiteral("from")) || !parser.isSet(QStringLiteral("to")))
             return context.usageError(Text::tr("both --from and --to are required"));
@@ -101,5 +101,5 @@ CommandSpec icsExpandCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -163,17 +163,17 @@ int run(CommandContext &context)
 
 } // namespace
 
-CommandSpec icsParseCommand()
+CommandDefinition icsParseCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("ics"), QStringLiteral("parse")};
-    spec.synopsis = QStringLiteral("[FILE|-] [--json]");
-    spec.summary = Text::tr("Read iCalendar text and print its events and tasks.");
-    spec.description
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("ics"), QStringLiteral("parse")};
+    definition.synopsis = QStringLiteral("[FILE|-] [--json]");
+    definition.summary = Text::tr("Read iCalendar text and print its events and tasks.");
+    definition.description
         = Text::tr("Reads iCalendar text from FILE, or from standard input when FILE is - or absent, with the "
                    "calendar's own reader, and prints the events and the tasks it finds, each in the order of "
                    "the text. The calendar database is not touched.");
-    spec.maxArguments = 1;
-    spec.run = run;
-    return spec;
+    definition.maxArguments = 1;
+    definition.run = run;
+    return definition;
 }

@@ -19,23 +19,23 @@ struct Text
 
 } // namespace
 
-CommandSpec importCommand()
+CommandDefinition importCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("import")};
-    spec.synopsis = QStringLiteral("FILE [--calendar ID] [--json]");
-    spec.summary = Text::tr("Import the events of an iCalendar file.");
-    spec.description
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("import")};
+    definition.synopsis = QStringLiteral("FILE [--calendar ID] [--json]");
+    definition.summary = Text::tr("Import the events of an iCalendar file.");
+    definition.description
         = Text::tr("Imports the events of FILE into a calendar: --calendar, else the calendar chosen for new "
                    "events (the preference ui/defaultCalendarId, else the default calendar, else the first "
                    "one). An event already in the calendar (same UID and recurrence id) is updated, any "
                    "other is added. Either the whole file is imported or, on an error, nothing.");
-    spec.options = {
+    definition.options = {
         QCommandLineOption(QStringLiteral("calendar"), Text::tr("Import into the calendar ID."), QStringLiteral("ID")),
     };
-    spec.minArguments = 1;
-    spec.maxArguments = 1;
-    spec.run = [](CommandContext &context) {
+    definition.minArguments = 1;
+    definition.maxArguments = 1;
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -68,5 +68,5 @@ CommandSpec importCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }

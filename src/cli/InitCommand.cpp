@@ -6,15 +6,15 @@
 #include <QCoreApplication>
 #include <QJsonObject>
 
-CommandSpec initCommand()
+CommandDefinition initCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("init")};
-    spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = QCoreApplication::translate("kbcal", "Create or migrate the database.");
-    spec.description = QCoreApplication::translate(
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("init")};
+    definition.synopsis = QStringLiteral("[--json]");
+    definition.summary = QCoreApplication::translate("kbcal", "Create or migrate the database.");
+    definition.description = QCoreApplication::translate(
         "kbcal", "Creates the calendar database in the data folder, or brings an existing one up to date.");
-    spec.run = [](CommandContext &context) {
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -30,5 +30,5 @@ CommandSpec initCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -28,17 +28,17 @@ int countRows(Database *database, const QString &sql)
 
 } // namespace
 
-CommandSpec sampleDataAddCommand()
+CommandDefinition sampleDataAddCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("sample-data"), QStringLiteral("add")};
-    spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = Text::tr("Add a sample week of events and tasks.");
-    spec.description
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("sample-data"), QStringLiteral("add")};
+    definition.synopsis = QStringLiteral("[--json]");
+    definition.summary = Text::tr("Add a sample week of events and tasks.");
+    definition.description
         = Text::tr("Adds the account \"Sample Data\" with four calendars, a week of events around today and a "
                    "few tasks, to show what the calendar looks like. Whatever of it is already there is left "
                    "as it is. 'kbcal sample-data remove' takes it away again.");
-    spec.run = [](CommandContext &context) {
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -69,17 +69,18 @@ CommandSpec sampleDataAddCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }
 
-CommandSpec sampleDataRemoveCommand()
+CommandDefinition sampleDataRemoveCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("sample-data"), QStringLiteral("remove")};
-    spec.synopsis = QStringLiteral("[--json]");
-    spec.summary = Text::tr("Remove the sample events, tasks, calendars and account.");
-    spec.description = Text::tr("Deletes everything 'kbcal sample-data add' created and prints how many rows went.");
-    spec.run = [](CommandContext &context) {
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("sample-data"), QStringLiteral("remove")};
+    definition.synopsis = QStringLiteral("[--json]");
+    definition.summary = Text::tr("Remove the sample events, tasks, calendars and account.");
+    definition.description
+        = Text::tr("Deletes everything 'kbcal sample-data add' created and prints how many rows went.");
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -90,5 +91,5 @@ CommandSpec sampleDataRemoveCommand()
             context.out() << Text::tr("Removed %1 sample rows.").arg(removed) << Qt::endl;
         return 0;
     };
-    return spec;
+    return definition;
 }

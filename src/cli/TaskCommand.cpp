@@ -55,24 +55,25 @@ int changeTask(CommandContext &context, bool complete)
     return 0;
 }
 
-CommandSpec taskChangeCommand(const QString &word, const QString &summary, const QString &description, bool complete)
+CommandDefinition taskChangeCommand(const QString &word, const QString &summary, const QString &description,
+                                    bool complete)
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("task"), word};
-    spec.synopsis = QStringLiteral("ID [--json]");
-    spec.summary = summary;
-    spec.description = description;
-    spec.minArguments = 1;
-    spec.maxArguments = 1;
-    spec.run = [complete](CommandContext &context) {
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("task"), word};
+    definition.synopsis = QStringLiteral("ID [--json]");
+    definition.summary = summary;
+    definition.description = description;
+    definition.minArguments = 1;
+    definition.maxArguments = 1;
+    definition.run = [complete](CommandContext &context) {
         return changeTask(context, complete);
     };
-    return spec;
+    return definition;
 }
 
 } // namespace
 
-CommandSpec taskCompleteCommand()
+CommandDefinition taskCompleteCommand()
 {
     return taskChangeCommand(
         QStringLiteral("complete"), Text::tr("Complete a task."),
@@ -81,7 +82,7 @@ CommandSpec taskCompleteCommand()
         true);
 }
 
-CommandSpec taskReopenCommand()
+CommandDefinition taskReopenCommand()
 {
     return taskChangeCommand(QStringLiteral("reopen"), Text::tr("Reopen a completed task."),
                              Text::tr("Marks the task ID as not completed. Prints the task after the change."), false);

@@ -32,20 +32,20 @@ QString taskLine(const Task &task)
 
 } // namespace
 
-CommandSpec tasksCommand()
+CommandDefinition tasksCommand()
 {
-    CommandSpec spec;
-    spec.words = {QStringLiteral("tasks")};
-    spec.synopsis = QStringLiteral("[--calendar ID] [--json]");
-    spec.summary = Text::tr("List tasks.");
-    spec.description
+    CommandDefinition definition;
+    definition.words = {QStringLiteral("tasks")};
+    definition.synopsis = QStringLiteral("[--calendar ID] [--json]");
+    definition.summary = Text::tr("List tasks.");
+    definition.description
         = Text::tr("Lists the tasks of the calendar ID, or of every calendar, by due date; tasks without a "
                    "due date come last in each calendar. Deleted tasks are not listed.");
-    spec.options = {
+    definition.options = {
         QCommandLineOption(QStringLiteral("calendar"), Text::tr("List the tasks of the calendar ID."),
                            QStringLiteral("ID")),
     };
-    spec.run = [](CommandContext &context) {
+    definition.run = [](CommandContext &context) {
         Database *database = context.database();
         if (!database)
             return 1;
@@ -74,5 +74,5 @@ CommandSpec tasksCommand()
         }
         return 0;
     };
-    return spec;
+    return definition;
 }

@@ -12,7 +12,7 @@ class CommandContext;
 
 // One kbcal command: its words ("task complete"), its synopsis and options, and what it runs.
 // A new command is a function returning one of these, listed in Commands.cpp.
-struct CommandSpec
+struct CommandDefinition
 {
     QStringList words; // e.g. {"ics", "parse"}
     QString synopsis; // the arguments after the words, e.g. "[FILE|-] [--json]"
