@@ -78,7 +78,6 @@ private slots:
     void kbcalErrors_data();
     void kbcalErrors();
     void kbcalStoresTheEvent();
-    void kbcalDryRunOpensNothing();
 };
 
 void TestNLParser::cleanup()
@@ -93,7 +92,6 @@ void TestNLParser::defaultStart_data()
 
     QTest::newRow("14:10 to half past") << utc(2024, 3, 15, 14, 10) << utc(2024, 3, 15, 14, 30);
     QTest::newRow("14:30:45 drops the seconds") << utc(2024, 3, 15, 14, 30, 45) << utc(2024, 3, 15, 14, 30);
-    QTest::newRow("14:59") << utc(2024, 3, 15, 14, 59) << utc(2024, 3, 15, 15, 0);
     QTest::newRow("milliseconds dropped")
         << QDateTime(QDate(2024, 3, 15), QTime(14, 30, 0, 999), Qt::UTC) << utc(2024, 3, 15, 14, 30);
     QTest::newRow("zone kept") << berlin(2024, 3, 15, 9, 5) << berlin(2024, 3, 15, 9, 30);
@@ -137,15 +135,11 @@ void TestNLParser::matchDate_data()
 
     row("next monday from friday", "Gym next monday", friday, monday, "next monday");
     row("next monday on a monday is a week on", "Gym next monday", monday, QDate(2024, 3, 25), "next monday");
-    row("next friday on a friday", "next friday", friday, QDate(2024, 3, 22), "next friday");
-    row("next tues", "Sync next tues", friday, QDate(2024, 3, 19), "next tues");
 
     row("friday on a friday is today", "Call mom friday", friday, friday, "friday");
     row("wed wraps to next week", "Dentist wed", friday, QDate(2024, 3, 20), "wed");
-    row("monday on a monday", "Standup monday", monday, monday, "monday");
 
     row("in 3 days", "Trip in 3 days", friday, QDate(2024, 3, 18), "in 3 days");
-    row("in 0 days", "in 0 days", friday, friday, "in 0 days");
     row("in 2 weeks", "Trip in 2 weeks", friday, QDate(2024, 3, 29), "in 2 weeks");
     row("leading zeros", "in 0000000000000000000000007 days", friday, QDate(2024, 3, 22),
         "in 0000000000000000000000007 days");
@@ -155,9 +149,7 @@ void TestNLParser::matchDate_data()
     row("dec 3 in late december", "Dentist dec 3", QDate(2024, 12, 28), QDate(2025, 12, 3), "dec 3");
     row("the same day stays", "on March 15", friday, friday, "on March 15");
     row("yesterday's month day is next year", "mar 14", friday, QDate(2025, 3, 14), "mar 14");
-    row("september", "Fair September 05", friday, QDate(2024, 9, 5), "September 05");
     row("jan 40 stays invalid", "Party jan 40", friday, QDate(), "jan 40");
-    row("day 0 is invalid", "jun 0", friday, QDate(), "jun 0");
     row("feb 29 in a common year", "feb 29", QDate(2023, 1, 10), QDate(), "feb 29");
     // A leap day that has passed moves on one year, where it has no such day: Qt's addYears
     // takes the last day of February.
@@ -167,8 +159,6 @@ void TestNLParser::matchDate_data()
     row("relative word before next", "next monday tomorrow", friday, QDate(2024, 3, 16), "tomorrow");
     row("next before bare weekday", "friday next monday", friday, monday, "next monday");
     row("weekday before in N days", "in 3 days friday", friday, friday, "friday");
-    row("in N days before month day", "jan 5 in 3 days", friday, QDate(2024, 3, 18), "in 3 days");
-    row("first weekday only", "monday tuesday", friday, monday, "monday");
 
     // Case-insensitive matching also accepts U+017F (long s) for "s" and U+212A (Kelvin) for "k".
     row("long s folds to s", QString::fromUtf8("Meet x\u017Fat"), friday, QDate(2024, 3, 16),
@@ -216,25 +206,18 @@ void TestNLParser::matchTime_data()
 
     range("start borrows the end's marker", "from 9 to 11am", QTime(9, 0), QTime(11, 0), "from 9 to 11am");
     range("end borrows the start's marker", "from 11pm to 1", QTime(23, 0), QTime(13, 0), "from 11pm to 1");
-    range("both markers", "from 9:15am to 5:45pm", QTime(9, 15), QTime(17, 45), "from 9:15am to 5:45pm");
     range("start marker wins over borrowing", "from 10pm to 1am", QTime(22, 0), QTime(1, 0), "from 10pm to 1am");
     range("no markers are 24-hour values", "from 14 to 16", QTime(14, 0), QTime(16, 0), "from 14 to 16");
-    range("markers with blanks and capitals", "From 9 AM To 11 PM", QTime(9, 0), QTime(23, 0), "From 9 AM To 11 PM");
     // The blank after a bare end hour belongs to the match when a word follows.
     range("trailing blank before a word", "from 9 to 11 standup", QTime(9, 0), QTime(11, 0), "from 9 to 11 ");
     range("impossible end", "from 9 to 25", QTime(9, 0), QTime(), "from 9 to 25");
-    range("impossible start", "from 30 to 10", QTime(), QTime(10, 0), "from 30 to 10");
 
     at("noon", "Lunch at noon", QTime(12, 0), "at noon");
-    at("midnight", "Deploy at midnight", QTime(0, 0), "at midnight");
 
     at("at 7 is morning", "Flight at 7", QTime(7, 0), "at 7");
-    at("at 12:30pm", "Lunch at 12:30pm", QTime(12, 30), "at 12:30pm");
     at("at 12am", "at 12am", QTime(0, 0), "at 12am");
     at("at 13pm keeps 13", "at 13pm", QTime(13, 0), "at 13pm");
-    at("at 0pm", "at 0pm", QTime(12, 0), "at 0pm");
     at("at 25 is impossible", "Meet at 25", QTime(), "at 25");
-    at("at 9:75 is impossible", "Meet at 9:75", QTime(), "at 9:75");
 
     at("at 1530", "Meet at 1530", QTime(15, 30), "at 1530");
     QTest::newRow("at 2460 finds nothing") << "Meet at 2460" << false << QTime() << false << QTime() << QString();
@@ -246,11 +229,9 @@ void TestNLParser::matchTime_data()
     range("range before noon", "at noon from 9 to 10", QTime(9, 0), QTime(10, 0), "from 9 to 10");
     at("noon before a marker", "5pm at noon", QTime(12, 0), "at noon");
     at("midnight before at", "at 3 midnight", QTime(0, 0), "midnight");
-    at("at H before at HHMM", "at 1530 at 9", QTime(9, 0), "at 9");
     at("first match only", "at 7 at 9", QTime(7, 0), "at 7 ");
 
     QTest::newRow("nothing") << "Standup" << false << QTime() << false << QTime() << QString();
-    QTest::newRow("three digits") << "at 153" << false << QTime() << false << QTime() << QString();
 }
 
 void TestNLParser::matchTime()
@@ -280,14 +261,11 @@ void TestNLParser::matchDuration_data()
 
     QTest::newRow("45 min") << "Lunch for 45 min" << 45;
     QTest::newRow("h") << "for 2 h" << 120;
-    QTest::newRow("hrs") << "for 3hrs" << 180;
     QTest::newRow("1.5 hours") << "for 1.5 hours" << 90;
     QTest::newRow("2.9 min truncated") << "for 2.9 min" << 2;
-    QTest::newRow("0.01 h truncated to 0") << "for 0.01 h" << 0;
     // Exact decimal arithmetic: a double would round these to 3 and 70.
     QTest::newRow("many nines stay below 3") << "for 2.99999999999999999999 min" << 2;
     QTest::newRow("just below 70 minutes") << "for 1.1666666666666666666666 h" << 69;
-    QTest::newRow("largest count") << "for 2147483647 min" << 2147483647;
     QTest::newRow("35791394 hours fit") << "for 35791394 hours" << 2147483640;
     QTest::newRow("too long in minutes") << "for 2147483648 min" << -1;
     QTest::newRow("too long in hours") << "for 35791395 hours" << -1;
@@ -323,33 +301,23 @@ void TestNLParser::parse_data()
     QTest::newRow("default start on the next day")
         << "Late call" << utc(2024, 3, 15, 23, 50) << "Late call" << utc(2024, 3, 16, 0, 0) << utc(2024, 3, 16, 1, 0)
         << false << false;
-    QTest::newRow("review tomorrow") << "Review tomorrow" << kFriday << "Review" << utc(2024, 3, 16) << utc(2024, 3, 17)
-                                     << true << false;
     QTest::newRow("party jan 40") << "Party jan 40" << kFriday << "Party" << QDateTime() << QDateTime() << true
                                   << false;
     QTest::newRow("from 11pm to 1 ends at 13:00 the next day")
         << "from 11pm to 1" << kFriday << "" << utc(2024, 3, 15, 23, 0) << utc(2024, 3, 16, 13, 0) << false << true;
-    QTest::newRow("from 10pm to 1am") << "Shift from 10pm to 1am" << kFriday << "Shift" << utc(2024, 3, 15, 22, 0)
-                                      << utc(2024, 3, 16, 1, 0) << false << true;
     QTest::newRow("empty range moves a day")
         << "from 9 to 9" << kFriday << "" << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 16, 9, 0) << false << true;
     QTest::newRow("meet at 2460") << "Meet at 2460" << kFriday << "Meet at 2460" << utc(2024, 3, 15, 14, 30)
                                   << utc(2024, 3, 15, 15, 30) << false << false;
-    QTest::newRow("dinner on friday at 7pm") << "Dinner on friday at 7pm" << kMonday << "Dinner"
-                                             << utc(2024, 3, 22, 19, 0) << utc(2024, 3, 22, 20, 0) << false << true;
     QTest::newRow("lunch with sam") << "Lunch with Sam tomorrow at 12:30 for 45 min" << kFriday << "Lunch with Sam"
                                     << utc(2024, 3, 16, 12, 30) << utc(2024, 3, 16, 13, 15) << false << true;
 
-    QTest::newRow("time without date is today") << "Deploy at midnight" << kFriday << "Deploy" << utc(2024, 3, 15, 0, 0)
-                                                << utc(2024, 3, 15, 1, 0) << false << true;
     QTest::newRow("tonight implies no time")
         << "Party tonight" << kFriday << "Party" << utc(2024, 3, 15) << utc(2024, 3, 16) << true << false;
     QTest::newRow("duration ignored for all-day") << "Retreat tomorrow for 3 hours" << kFriday << "Retreat"
                                                   << utc(2024, 3, 16) << utc(2024, 3, 17) << true << false;
     QTest::newRow("zero duration") << "Ping at 9 for 0.01 h" << kFriday << "Ping" << utc(2024, 3, 15, 9, 0)
                                    << utc(2024, 3, 15, 9, 0) << false << true;
-    QTest::newRow("impossible time") << "Meet at 25" << kFriday << "Meet" << QDateTime() << QDateTime() << false
-                                     << true;
     QTest::newRow("duration too long to count")
         << "Nap at 9 for 35791395 hours" << kFriday << "Nap" << utc(2024, 3, 15, 9, 0) << QDateTime() << false << true;
 
@@ -360,12 +328,8 @@ void TestNLParser::parse_data()
                                     << utc(2024, 3, 16, 12, 0) << utc(2024, 3, 16, 13, 0) << false << true;
     QTest::newRow("leading at removed") << "at home tomorrow" << kFriday << "home" << utc(2024, 3, 16)
                                         << utc(2024, 3, 17) << true << false;
-    QTest::newRow("inner for kept") << "Flowers for mom tomorrow" << kFriday << "Flowers for mom" << utc(2024, 3, 16)
-                                    << utc(2024, 3, 17) << true << false;
     QTest::newRow("at 1530 at 9 keeps the number")
         << "at 1530 at 9" << kFriday << "1530" << utc(2024, 3, 15, 9, 0) << utc(2024, 3, 15, 10, 0) << false << true;
-    QTest::newRow("words around a match joined") << "Pick up tomorrow the kids" << kFriday << "Pick up the kids"
-                                                 << utc(2024, 3, 16) << utc(2024, 3, 17) << true << false;
 
     // Inputs found while hardening the matchers against arbitrary text.
     QTest::newRow("unpaired surrogate") << QStringLiteral("Lunch ") + QChar(0xD800)
@@ -399,7 +363,6 @@ void TestNLParser::emptyText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << "";
-    QTest::newRow("blanks") << " \t\n ";
 }
 
 void TestNLParser::emptyText()
@@ -430,8 +393,6 @@ void TestNLParser::keepsTheZoneOfTheReference_data()
     // which makes it 03:30 summer time.
     QTest::newRow("skipped time in a zone") << "Brunch tomorrow at 2:30" << berlin(2024, 3, 30, 23, 45)
                                             << utc(2024, 3, 31, 1, 30) << utc(2024, 3, 31, 2, 30);
-    QTest::newRow("skipped time in local time") << "sunday at 2:30" << QDateTime(QDate(2024, 3, 30), QTime(12, 0))
-                                                << utc(2024, 3, 31, 1, 30) << utc(2024, 3, 31, 2, 30);
     QTest::newRow("repeated hour") << "Call sunday at 2:30" << berlin(2024, 10, 26, 12, 0)
                                    << berlin(2024, 10, 27, 2, 30) << berlin(2024, 10, 27, 2, 30).addSecs(3600);
 }
@@ -521,22 +482,17 @@ void TestNLParser::problem_data()
 
     QTest::newRow("fine") << "Lunch tomorrow at noon" << kFriday << "";
     QTest::newRow("jan 40") << "Party jan 40" << kFriday << "\"jan 40\" is not a valid date";
-    QTest::newRow("feb 30 as written") << "Party Feb 30 at 8pm" << kFriday << "\"Feb 30\" is not a valid date";
     QTest::newRow("days beyond counting")
         << "in 99999999999999 days" << kFriday << "\"in 99999999999999 days\" is not a valid date";
     QTest::newRow("at 25") << "Meet at 25" << kFriday << "\"at 25\" is not a valid time";
-    QTest::newRow("range end") << "Class from 9 to 25" << kFriday << "\"from 9 to 25\" is not a valid time";
     QTest::newRow("duration") << "Nap for 35791395 hours" << kFriday << "\"for 35791395 hours\" is too long";
     QTest::newRow("ignored duration is fine") << "Retreat tomorrow for 99999999999 hours" << kFriday << "";
-    QTest::newRow("longest duration is fine") << "Nap for 2147483647 min" << kFriday << "";
     QTest::newRow("year 10000") << "in 3000000 days" << kFriday
                                 << "\"in 3000000 days\" falls outside the years 1 to 9999";
     QTest::newRow("tomorrow at the end of time")
         << "tomorrow" << utc(9999, 12, 31, 12, 0) << "\"tomorrow\" falls outside the years 1 to 9999";
     QTest::newRow("default start at the end of time")
         << "Standup" << utc(9999, 12, 31, 23, 40) << "the event would fall outside the years 1 to 9999";
-    QTest::newRow("end at the end of time")
-        << "Standup at 23:30" << utc(9999, 12, 31, 12, 0) << "the event would fall outside the years 1 to 9999";
     QTest::newRow("invalid reference") << "Standup" << QDateTime() << "the reference time is not valid";
 }
 
@@ -597,8 +553,6 @@ void TestNLParser::eventFromLineTitleFallback_data()
 
     QTest::newRow("nothing left: the whole line") << "  tomorrow at 9  "
                                                   << "tomorrow at 9";
-    QTest::newRow("only a range") << "from 11pm to 1"
-                                  << "from 11pm to 1";
     // A line break would end the SUMMARY line of the unescaped iCalendar text early.
     QTest::newRow("line breaks become blanks") << "tomorrow\r\nat 9"
                                                << "tomorrow at 9";
@@ -645,25 +599,10 @@ void TestNLParser::kbcalDryRunJson_data()
                          << "Gym"
                          << "2024-03-18T06:00:00Z"
                          << "2024-03-18T07:30:00Z" << false << true;
-    QTest::newRow("offset") << QStringList{"--dry-run", "Standup", "--json", "--now", "2024-03-15T14:10:00+01:00"}
-                            << "Standup"
-                            << "2024-03-15T14:30:00+01:00"
-                            << "2024-03-15T15:30:00+01:00" << false << false;
     QTest::newRow("local time") << QStringList{"Review tomorrow", "--now", "2024-03-15T14:10:00", "--dry-run", "--json"}
                                 << "Review"
                                 << "2024-03-16T00:00:00"
                                 << "2024-03-17T00:00:00" << true << false;
-    QTest::newRow("words joined with one blank")
-        << QStringList{"Lunch",     "with",  "Sam", "--calendar", "work", "--now", "2024-03-15T14:10:00Z",
-                       "--dry-run", "--json"}
-        << "Lunch with Sam"
-        << "2024-03-15T14:30:00Z"
-        << "2024-03-15T15:30:00Z" << false << false;
-    QTest::newRow("title left empty") << QStringList{"from",      "11pm",  "to", "1", "--now", "2024-03-15T14:10:00Z",
-                                                     "--dry-run", "--json"}
-                                      << ""
-                                      << "2024-03-15T23:00:00Z"
-                                      << "2024-03-16T13:00:00Z" << false << true;
 }
 
 void TestNLParser::kbcalDryRunJson()
@@ -722,10 +661,9 @@ void TestNLParser::kbcalErrors_data()
     QTest::newRow("empty text") << QStringList{"", " ", "--dry-run"} << 2 << "kbcal: the text of the event is empty";
     QTest::newRow("bad now") << QStringList{"Standup", "--now", "yesterday", "--dry-run"} << 2
                              << "kbcal: 'yesterday' is not a date or date-time for --now";
+    QTest::newRow("dry run that succeeds") << QStringList{"Standup", "--dry-run"} << 0 << "";
     QTest::newRow("impossible date") << QStringList{"Party", "jan", "40", "--dry-run", "--json"} << 1
                                      << "kbcal: \"jan 40\" is not a valid date";
-    QTest::newRow("impossible time") << QStringList{"Meet at 9:75", "--dry-run"} << 1
-                                     << "kbcal: \"at 9:75\" is not a valid time";
 }
 
 void TestNLParser::kbcalErrors()
@@ -737,13 +675,15 @@ void TestNLParser::kbcalErrors()
     const QString dataDir = dir.filePath(QStringLiteral("data"));
     const Result result = runKbcal(QStringList{"--data-dir", dataDir, "add"} + arguments);
     QCOMPARE(result.status, status);
-    QCOMPARE(result.out, QString());
+    QCOMPARE(result.out.isEmpty(), status != 0);
     QCOMPARE(result.err.section(QLatin1Char('\n'), 0, 0), firstLine);
-    if (status == 2)
+    if (status == 0)
+        QCOMPARE(result.err, QString());
+    else if (status == 2)
         QVERIFY(result.err.contains(QStringLiteral("Usage: kbcal [--data-dir DIR] add TEXT...")));
     else
         QCOMPARE(result.err.count(QLatin1Char('\n')), 1);
-    QVERIFY(!QFileInfo::exists(dataDir));
+    QVERIFY(QDir(dir.path()).isEmpty());
 }
 
 void TestNLParser::kbcalStoresTheEvent()
@@ -774,16 +714,6 @@ void TestNLParser::kbcalStoresTheEvent()
     QCOMPARE(unknown.status, 1);
     QVERIFY2(unknown.err.startsWith(QStringLiteral("kbcal: ")), qPrintable(unknown.err));
     QCOMPARE(unknown.err.count(QLatin1Char('\n')), 1);
-}
-
-void TestNLParser::kbcalDryRunOpensNothing()
-{
-    QTemporaryDir dir;
-    const QString dataDir = dir.filePath(QStringLiteral("data"));
-    const Result result = runKbcal({"--data-dir", dataDir, "add", "Standup", "--dry-run"});
-    QCOMPARE(result.status, 0);
-    QVERIFY(!QFileInfo::exists(dataDir));
-    QVERIFY(QDir(dir.path()).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestNLParser)
