@@ -54,7 +54,6 @@ class TestKbcalIcs : public QObject
 
 private slots:
     void jsonShape();
-    void jsonContentOfAFeed();
     void standardInput_data();
     void standardInput();
     void textOutput();
@@ -83,50 +82,14 @@ void TestKbcalIcs::jsonShape()
     const QJsonObject doc = parseObject(result.out);
     QCOMPARE(doc.keys(), (QStringList{"events", "tasks"}));
 
+    // The records themselves are the reader's; here only that every field of each is written.
     const QJsonArray events = doc.value(QStringLiteral("events")).toArray();
     QCOMPARE(events.size(), 2);
-    const QJsonObject first = events.at(0).toObject();
-    QCOMPARE(first.keys(), JsonRecords::toJson(Event()).keys());
-    QCOMPARE(first.value(QStringLiteral("uid")).toString(), QStringLiteral("e1"));
-    QCOMPARE(first.value(QStringLiteral("start_time")).toString(), QStringLiteral("2024-01-05T09:00:00+01:00"));
-    QCOMPARE(first.value(QStringLiteral("end_time")).toString(), QStringLiteral("2024-01-05T09:15:00+01:00"));
-    QCOMPARE(first.value(QStringLiteral("timezone")).toString(), QStringLiteral("Europe/Berlin"));
-    QCOMPARE(first.value(QStringLiteral("is_all_day")), QJsonValue(false));
-    QCOMPARE(first.value(QStringLiteral("sequence")), QJsonValue(0));
-    QCOMPARE(first.value(QStringLiteral("created")), QJsonValue(QJsonValue::Null));
-    QCOMPARE(first.value(QStringLiteral("reminders")), QJsonValue(QJsonArray()));
-    QVERIFY(first.value(QStringLiteral("raw_icalendar")).toString().startsWith(QLatin1String(ICal::kCalendarHead)));
-    const QJsonObject second = events.at(1).toObject();
-    QCOMPARE(second.value(QStringLiteral("title")).toString(), QStringLiteral("Holiday\nabroad"));
-    QCOMPARE(second.value(QStringLiteral("start_time")).toString(), QStringLiteral("2024-07-10T00:00:00Z"));
-    QCOMPARE(second.value(QStringLiteral("end_time")), QJsonValue(QJsonValue::Null));
-    QCOMPARE(second.value(QStringLiteral("is_all_day")), QJsonValue(true));
-
+    QCOMPARE(events.at(0).toObject().keys(), JsonRecords::toJson(Event()).keys());
     const QJsonArray tasks = doc.value(QStringLiteral("tasks")).toArray();
     QCOMPARE(tasks.size(), 1);
-    const QJsonObject task = tasks.at(0).toObject();
-    QCOMPARE(task.keys(), JsonRecords::toJson(Task()).keys());
-    QCOMPARE(task.value(QStringLiteral("categories")), QJsonValue(QJsonArray{"Home", "Shop"}));
-    QCOMPARE(task.value(QStringLiteral("due_date")).toString(), QStringLiteral("2024-03-01T00:00:00Z"));
-    QCOMPARE(task.value(QStringLiteral("due_is_date_only")), QJsonValue(true));
-    QCOMPARE(task.value(QStringLiteral("start_date")), QJsonValue(QJsonValue::Null));
-    QCOMPARE(task.value(QStringLiteral("raw_icalendar")).toString(),
-             QStringLiteral("BEGIN:VTODO\r\nUID:t1\r\nSUMMARY:Buy milk\r\nCATEGORIES:Home,Shop\r\n"
-                            "DUE;VALUE=DATE:20240301\r\nEND:VTODO\r\n"));
+    QCOMPARE(tasks.at(0).toObject().keys(), JsonRecords::toJson(Task()).keys());
     QCOMPARE(doc, expectedDocument(kSmall));
-}
-
-void TestKbcalIcs::jsonContentOfAFeed()
-{
-    QFile file(kFeed);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
-    const Result result = runKbcal({"ics", "parse", kFeed, "--json"});
-    QCOMPARE(result.status, 0);
-    const QJsonObject doc = parseObject(result.out);
-    QCOMPARE(doc.value(QStringLiteral("events")).toArray().size(), 300);
-    QCOMPARE(doc.value(QStringLiteral("tasks")).toArray().size(), 40);
-    QCOMPARE(doc, expectedDocument(text));
 }
 
 void TestKbcalIcs::standardInput_data()
