@@ -599,10 +599,6 @@ void TestNLParser::kbcalDryRunJson_data()
                          << "Gym"
                          << "2024-03-18T06:00:00Z"
                          << "2024-03-18T07:30:00Z" << false << true;
-    QTest::newRow("local time") << QStringList{"Review tomorrow", "--now", "2024-03-15T14:10:00", "--dry-run", "--json"}
-                                << "Review"
-                                << "2024-03-16T00:00:00"
-                                << "2024-03-17T00:00:00" << true << false;
 }
 
 void TestNLParser::kbcalDryRunJson()

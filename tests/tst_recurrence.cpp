@@ -458,31 +458,12 @@ void TestRecurrence::occurrenceStarts_data()
     QTest::addColumn<QStringList>("expected");
 
     // 2024-01-01 is a Monday.
-    QTest::newRow("range end exclusive") << "FREQ=DAILY" << utc(2024, 1, 1, 9) << utc(2024, 1, 3, 9)
-                                         << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z"};
     QTest::newRow("start equal to until emitted")
         << "FREQ=DAILY;UNTIL=20240103T090000Z" << utc(2024, 1, 1, 9) << utc(2024, 2, 1)
         << QStringList{"2024-01-01T09:00:00Z", "2024-01-02T09:00:00Z", "2024-01-03T09:00:00Z"};
     QTest::newRow("date-only until ends the day before")
         << "FREQ=DAILY;UNTIL=20240110" << utc(2024, 1, 7, 9) << utc(2024, 2, 1)
         << QStringList{"2024-01-07T09:00:00Z", "2024-01-08T09:00:00Z", "2024-01-09T09:00:00Z"};
-    QTest::newRow("daily weekdays, count of matching days")
-        << "FREQ=DAILY;BYDAY=MO,FR;COUNT=3" << utc(2024, 1, 3, 9) << utc(2024, 2, 1)
-        << QStringList{"2024-01-05T09:00:00Z", "2024-01-08T09:00:00Z", "2024-01-12T09:00:00Z"};
-    QTest::newRow("weekly from wednesday, no monday in first week")
-        << "FREQ=WEEKLY;BYDAY=MO,WE,FR;COUNT=4" << utc(2024, 1, 3, 9) << utc(2024, 2, 1)
-        << QStringList{"2024-01-03T09:00:00Z", "2024-01-05T09:00:00Z", "2024-01-08T09:00:00Z", "2024-01-10T09:00:00Z"};
-    QTest::newRow("weeks start on monday whatever WKST says")
-        << "FREQ=WEEKLY;INTERVAL=2;WKST=SU;BYDAY=SU,MO;COUNT=3" << utc(2024, 1, 7, 9) << utc(2024, 3, 1)
-        << QStringList{"2024-01-07T09:00:00Z", "2024-01-15T09:00:00Z", "2024-01-21T09:00:00Z"};
-    QTest::newRow("monthly month-end drift")
-        << "FREQ=MONTHLY;COUNT=5" << utc(2024, 1, 31, 10) << utc(2025, 1, 1)
-        << QStringList{"2024-01-31T10:00:00Z", "2024-02-29T10:00:00Z", "2024-03-29T10:00:00Z", "2024-04-29T10:00:00Z",
-                       "2024-05-29T10:00:00Z"};
-    QTest::newRow("yearly from 29 february stays on the 28th")
-        << "FREQ=YEARLY;COUNT=5" << utc(2020, 2, 29, 10) << utc(2030, 1, 1)
-        << QStringList{"2020-02-29T10:00:00Z", "2021-02-28T10:00:00Z", "2022-02-28T10:00:00Z", "2023-02-28T10:00:00Z",
-                       "2024-02-28T10:00:00Z"};
     QTest::newRow("hourly gives the start alone")
         << "FREQ=HOURLY;COUNT=5" << utc(2024, 1, 1, 9) << utc(2023, 1, 1) << QStringList{"2024-01-01T09:00:00Z"};
     QTest::newRow("no frequency gives the start alone")

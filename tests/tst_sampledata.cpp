@@ -94,12 +94,8 @@ void TestSampleData::eventsSitAroundToday_data()
                                      << "Sprint retrospective" << -1 << "";
     QTest::newRow("today-deadline") << "today-deadline"
                                     << "Project Phoenix deadline" << 0 << "";
-    QTest::newRow("today-lunch") << "today-lunch"
-                                 << "Lunch with Sarah" << 0 << "";
     QTest::newRow("tom-dentist") << "tom-dentist"
                                  << "Dentist appointment" << 1 << "FREQ=WEEKLY";
-    QTest::newRow("d5-birthday") << "d5-birthday"
-                                 << "Emma's birthday party" << 5 << "";
     QTest::newRow("d2-redeye") << "d2-redeye"
                                << "Red-eye to Tokyo (multi-day timed)" << 2 << "";
     QTest::newRow("d6-conf") << "d6-conf"
