@@ -89,7 +89,6 @@ private slots:
     void cleanup();
 
     void accountRoundTrip();
-    void accountsOrderBySortOrderThenName();
     void accountTombstones();
     void reorderAssignsTensInListOrder_data();
     void reorderAssignsTensInListOrder();
@@ -205,18 +204,6 @@ void TestConfigRepositories::accountRoundTrip()
              kNowText + QLatin1Char('|') + kNowText);
     QCOMPARE(scalar(QStringLiteral("SELECT server_url IS NULL FROM accounts WHERE id = 'a2'")).toInt(), 0);
     QVERIFY(repo.findByServer(QStringLiteral("kettlebrook"), QString(), QString()));
-}
-
-void TestConfigRepositories::accountsOrderBySortOrderThenName()
-{
-    AccountRepository repo(m_database.get());
-    for (const QString &name : {QStringLiteral("Cedar"), QStringLiteral("Alder"), QStringLiteral("Birch")})
-        QVERIFY(repo.insert(makeAccount(name.toLower(), name)));
-    QCOMPARE(idsOf(repo.getAll()), (QStringList{"alder", "birch", "cedar"}));
-
-    // A smaller sort_order comes first whatever the name; ties still fall back to the name.
-    QVERIFY(exec(QStringLiteral("UPDATE accounts SET sort_order = 5 WHERE id IN ('alder', 'birch')")));
-    QCOMPARE(idsOf(repo.getAll()), (QStringList{"cedar", "alder", "birch"}));
 }
 
 void TestConfigRepositories::accountTombstones()

@@ -526,9 +526,6 @@ void TestRecurrence::expandSeries_data()
                                        << utc(2024, 1, 11) << QStringList{"2024-01-08T00:00:00Z"};
     QTest::newRow("hourly start inside the span") << series(u"FREQ=HOURLY"_s, utc(2024, 1, 10, 9)) << utc(2024, 1, 1)
                                                   << utc(2024, 2, 1) << QStringList{"2024-01-10T09:00:00Z"};
-    QTest::newRow("yearly leap day far from the start")
-        << series(u"FREQ=YEARLY"_s, utc(2000, 2, 29, 10)) << utc(2024, 1, 1) << utc(2025, 1, 1)
-        << QStringList{"2024-02-28T10:00:00Z"};
 
     // The cap: the 10000th start of a daily series from 2000-01-01 is 9999 days later.
     const QDateTime capStart = utc(2000, 1, 1, 9);
@@ -538,15 +535,6 @@ void TestRecurrence::expandSeries_data()
                                << QStringList{iso(lastDaily.addDays(-2)), iso(lastDaily.addDays(-1)), iso(lastDaily)};
     QTest::newRow("count beyond the cap") << series(u"FREQ=DAILY;COUNT=20000"_s, capStart) << lastDaily.addSecs(-3600)
                                           << lastDaily.addDays(3) << QStringList{iso(lastDaily)};
-    QTest::newRow("daily cap counts matching days only")
-        << series(u"FREQ=DAILY;BYDAY=MO"_s, utc(1800, 1, 6, 9)) << utc(1991, 8, 1) << utc(1991, 9, 1)
-        << QStringList{"1991-08-05T09:00:00Z", "1991-08-12T09:00:00Z", "1991-08-19T09:00:00Z", "1991-08-26T09:00:00Z"};
-    QTest::newRow("weekly cap") << series(u"FREQ=WEEKLY;BYDAY=MO,TH"_s, utc(1900, 1, 1, 9)) << utc(1995, 10, 16)
-                                << utc(1995, 11, 20)
-                                << QStringList{"1995-10-16T09:00:00Z", "1995-10-19T09:00:00Z", "1995-10-23T09:00:00Z",
-                                               "1995-10-26T09:00:00Z"};
-    QTest::newRow("monthly cap") << series(u"FREQ=MONTHLY"_s, utc(1200, 1, 15, 9)) << utc(2033, 2, 1) << utc(2033, 7, 1)
-                                 << QStringList{"2033-02-15T09:00:00Z", "2033-03-15T09:00:00Z", "2033-04-15T09:00:00Z"};
 }
 
 void TestRecurrence::expandSeries()

@@ -109,12 +109,6 @@ void TestSeriesSplit::split_data()
     QTest::newRow("count") << "FREQ=WEEKLY;COUNT=10;BYDAY=MO"
                            << "FREQ=WEEKLY;BYDAY=MO;UNTIL=20240205T075959Z"
                            << "FREQ=WEEKLY;BYDAY=MO";
-    QTest::newRow("until") << "FREQ=WEEKLY;UNTIL=20241231T000000Z;BYDAY=MO"
-                           << "FREQ=WEEKLY;UNTIL=20240205T075959Z;BYDAY=MO"
-                           << "FREQ=WEEKLY;BYDAY=MO";
-    QTest::newRow("lower-case keys") << "freq=weekly;interval=1;until=20241231;count=3"
-                                     << "freq=weekly;interval=1;UNTIL=20240205T075959Z"
-                                     << "freq=weekly;interval=1";
     QTest::newRow("open-ended") << "FREQ=WEEKLY"
                                 << "FREQ=WEEKLY;UNTIL=20240205T075959Z"
                                 << "FREQ=WEEKLY";
