@@ -31,7 +31,6 @@ QDateTime berlin(int year, int month, int day, int hour = 0, int minute = 0)
 
 // Friday, 15 March 2024, 14:10 UTC: the reference time of most rows.
 const QDateTime kFriday = utc(2024, 3, 15, 14, 10);
-const QDateTime kMonday = utc(2024, 3, 18, 9, 0);
 
 constexpr int kNoMatch = -2;
 
@@ -71,7 +70,6 @@ private slots:
     void eventFromLineTitleFallback();
     void eventFromLineInLocalTime();
 
-    void kbcalDryRunJson_data();
     void kbcalDryRunJson();
     void kbcalDryRunText();
     void kbcalDefaultsToTheClock();
@@ -584,43 +582,21 @@ void TestNLParser::eventFromLineInLocalTime()
     QVERIFY(event->raw_icalendar.contains("DTSTART:20240315T133000Z\r\nDTEND:20240315T143000Z\r\n"));
 }
 
-void TestNLParser::kbcalDryRunJson_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<bool>("allDay");
-    QTest::addColumn<bool>("hasTime");
-
-    QTest::newRow("utc") << QStringList{"Gym",       "next",  "monday", "at",    "6am",
-                                        "for",       "1.5",   "hours",  "--now", "2024-03-15T14:10:00Z",
-                                        "--dry-run", "--json"}
-                         << "Gym"
-                         << "2024-03-18T06:00:00Z"
-                         << "2024-03-18T07:30:00Z" << false << true;
-}
-
 void TestNLParser::kbcalDryRunJson()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, title);
-    QFETCH(QString, start);
-    QFETCH(QString, end);
-    QFETCH(bool, allDay);
-    QFETCH(bool, hasTime);
-    const Result result = runKbcal(QStringList{"add"} + arguments);
+    const Result result = runKbcal({"add", "Gym", "next", "monday", "at", "6am", "for", "1.5", "hours", "--now",
+                                    "2024-03-15T14:10:00Z", "--dry-run", "--json"});
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
     QJsonParseError error;
     const QJsonObject object = QJsonDocument::fromJson(result.out.toUtf8(), &error).object();
     QCOMPARE(error.error, QJsonParseError::NoError);
-    QCOMPARE(object.keys(), (QStringList{"all_day", "end", "has_time", "start", "title"}));
-    QCOMPARE(object.value(QStringLiteral("title")).toString(), title);
-    QCOMPARE(object.value(QStringLiteral("start")).toString(), start);
-    QCOMPARE(object.value(QStringLiteral("end")).toString(), end);
-    QCOMPARE(object.value(QStringLiteral("all_day")), QJsonValue(allDay));
-    QCOMPARE(object.value(QStringLiteral("has_time")), QJsonValue(hasTime));
+    QCOMPARE(object,
+             (QJsonObject{{"title", "Gym"},
+                          {"start", "2024-03-18T06:00:00Z"},
+                          {"end", "2024-03-18T07:30:00Z"},
+                          {"all_day", false},
+                          {"has_time", true}}));
 }
 
 void TestNLParser::kbcalDryRunText()
