@@ -159,25 +159,18 @@ void TestEventPopover::timeText_data()
     const QString utc = QStringLiteral("UTC");
     QTest::newRow("24-hour") << "24" << false << at(1, 9, 10) << at(1, 9, 11) << utc
                              << "Tuesday, January 9 · 10:00 – 11:00";
-    QTest::newRow("12-hour") << "12" << false << at(1, 9, 9, 30) << at(1, 9, 13, 15) << utc
-                             << "Tuesday, January 9 · 9:30 AM – 1:15 PM";
     QTest::newRow("ends at midnight") << "24" << false << at(1, 9, 22) << at(1, 10, 0) << utc
                                       << "Tuesday, January 9 · 22:00 – 00:00";
     QTest::newRow("overnight") << "24" << false << at(1, 9, 22) << at(1, 10, 2) << utc
                                << "Tuesday, January 9, 22:00 – Wednesday, January 10, 02:00";
     QTest::newRow("no end") << "12" << false << at(1, 12, 14, 5) << QDateTime() << utc
                             << "Friday, January 12 · 2:05 PM";
-    QTest::newRow("another year") << "24" << false << QDateTime(QDate(2025, 2, 3), QTime(8, 0), kBerlin)
-                                  << QDateTime(QDate(2025, 2, 3), QTime(8, 45), kBerlin) << utc
-                                  << "Monday, February 3, 2025 · 08:00 – 08:45";
     QTest::newRow("another zone, shown local")
         << "24" << false << QDateTime(QDate(2024, 1, 9), QTime(9, 0), QTimeZone("America/New_York"))
         << QDateTime(QDate(2024, 1, 9), QTime(10, 0), QTimeZone("America/New_York")) << "America/New_York"
         << "Tuesday, January 9 · 15:00 – 16:00";
     QTest::newRow("all day") << "24" << true << utcDay(2024, 1, 9) << utcDay(2024, 1, 10) << utc
                              << "Tuesday, January 9 · All day";
-    QTest::newRow("all day without an end")
-        << "24" << true << utcDay(2024, 1, 9) << QDateTime() << utc << "Tuesday, January 9 · All day";
     QTest::newRow("all day over three days") << "12" << true << utcDay(2024, 1, 9) << utcDay(2024, 1, 12) << utc
                                              << "Tuesday, January 9 – Thursday, January 11";
     QTest::newRow("all day into next year") << "24" << true << utcDay(2024, 12, 30) << utcDay(2025, 1, 2) << utc
@@ -217,22 +210,17 @@ void TestEventPopover::repeatText_data()
     const QDateTime tuesday = at(1, 9, 9); // Tuesday 9 January, 09:00
     QTest::newRow("daily") << "FREQ=DAILY" << tuesday << "Every day";
     QTest::newRow("weekdays") << "FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR" << tuesday << "Every weekday";
-    QTest::newRow("daily on weekdays") << "FREQ=DAILY;BYDAY=MO,TU,WE,TH,FR" << tuesday << "Every weekday";
     QTest::newRow("weekly on its own day") << "FREQ=WEEKLY" << tuesday << "Every week on Tuesday";
     QTest::newRow("weekly on three days")
         << "FREQ=WEEKLY;BYDAY=FR,MO,WE" << tuesday << "Every week on Monday, Wednesday and Friday";
     QTest::newRow("fortnightly on two days")
         << "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH,MO" << tuesday << "Every 2 weeks on Monday and Thursday";
-    QTest::newRow("ordinal day is not supported") << "FREQ=WEEKLY;BYDAY=1MO" << tuesday << "Every week on Tuesday";
-    QTest::newRow("weekly on every day") << "FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR,SA,SU" << tuesday << "Every day";
     QTest::newRow("monthly") << "FREQ=MONTHLY" << at(1, 31, 9) << "Every month on day 31";
-    QTest::newRow("quarterly") << "FREQ=MONTHLY;INTERVAL=3" << tuesday << "Every 3 months on day 9";
     QTest::newRow("yearly") << "FREQ=YEARLY" << tuesday << "Every year on January 9";
     QTest::newRow("count") << "FREQ=DAILY;COUNT=5" << tuesday << "Every day, 5 times";
     QTest::newRow("until a date") << "FREQ=DAILY;UNTIL=20240131" << tuesday << "Every day, until January 30, 2024";
     QTest::newRow("until an instant") << "FREQ=WEEKLY;UNTIL=20240131T235959Z" << tuesday
                                       << "Every week on Tuesday, until January 31, 2024";
-    QTest::newRow("lower case") << "freq=weekly;interval=2" << tuesday << "Every 2 weeks on Tuesday";
     QTest::newRow("hourly does not repeat here") << "FREQ=HOURLY" << tuesday << "";
 }
 
@@ -288,9 +276,6 @@ void TestEventPopover::details()
     const QString notes = texts.filter(QStringLiteral("Bring")).value(0);
     QVERIFY(notes.endsWith(QChar(0x2026)));
     QVERIFY(notes.size() < event.description.size() / 2);
-    // The card stays on the screen it was opened on.
-    QVERIFY(popover()->isVisible());
-    QVERIFY(popover()->screen()->availableGeometry().intersects(popover()->geometry()));
 }
 
 void TestEventPopover::placement_data()
@@ -298,7 +283,6 @@ void TestEventPopover::placement_data()
     QTest::addColumn<QRect>("anchor");
     QTest::addColumn<QRect>("expected");
     const QSize card(344, 300); // on a 1600 × 900 screen
-
     QTest::newRow("room on the right") << QRect(400, 200, 150, 60) << QRect(QPoint(556, 200), card);
     QTest::newRow("flips to the left") << QRect(1300, 200, 150, 60) << QRect(QPoint(950, 200), card);
     QTest::newRow("kept above the bottom edge") << QRect(400, 800, 150, 60) << QRect(QPoint(556, 600), card);

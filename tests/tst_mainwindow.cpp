@@ -191,8 +191,6 @@ void TestMainWindow::importIcsFromCommand_data()
                                       "BEGIN:VCALENDAR\r\nBEGIN:VTODO\r\nUID:t\r\nEND:VTODO\r\nEND:VCALENDAR\r\n")
                                << false << "Nothing to import"
                                << "No events found in \"tasks.ics\".";
-    QTest::newRow("not a calendar") << "notes.ics" << QByteArray("just some notes\n") << false << "Nothing to import"
-                                    << "No events found in \"notes.ics\".";
     QTest::newRow("no writable calendar")
         << "invite.ics"
         << QByteArray("BEGIN:VCALENDAR\r\nBEGIN:VEVENT\r\nUID:u1\r\nSUMMARY:Review\r\nDTSTART:20240314T090000Z\r\n"

@@ -47,6 +47,31 @@ Calendar fromRow(const QSqlQuery &query)
     return calendar;
 }
 
+// The values of the columns from account_id to last_sync_error, in the order both insert and update
+// name them.
+QVariantList settableValues(const Calendar &calendar)
+{
+    return {requiredText(calendar.account_id),
+            requiredText(calendar.url),
+            requiredText(calendar.name),
+            requiredText(calendar.description),
+            requiredText(calendar.color),
+            requiredText(calendar.timezone),
+            StorageFormat::boolValue(calendar.is_visible),
+            StorageFormat::boolValue(calendar.is_read_only),
+            StorageFormat::boolValue(calendar.is_default),
+            requiredText(calendar.ctag),
+            requiredText(calendar.sync_token),
+            requiredText(calendar.delta_sync_token),
+            requiredText(calendar.supported_components),
+            calendar.sort_order,
+            requiredText(calendar.canonical_key),
+            StorageFormat::boolValue(calendar.sync_enabled),
+            StorageFormat::boolValue(calendar.is_shared),
+            StorageFormat::boolValue(calendar.shared_with_me),
+            requiredText(calendar.last_sync_error)};
+}
+
 } // namespace
 
 CalendarRepository::CalendarRepository(Database *database, QObject *parent)
@@ -96,28 +121,9 @@ bool CalendarRepository::insert(const Calendar &calendar)
                        "sort_order, canonical_key, sync_enabled, is_shared, shared_with_me, last_sync_error, "
                        "created_at, updated_at) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
                        "?, ?)"),
-        {requiredText(calendar.id),
-         requiredText(calendar.account_id),
-         requiredText(calendar.url),
-         requiredText(calendar.name),
-         requiredText(calendar.description),
-         requiredText(calendar.color),
-         requiredText(calendar.timezone),
-         StorageFormat::boolValue(calendar.is_visible),
-         StorageFormat::boolValue(calendar.is_read_only),
-         StorageFormat::boolValue(calendar.is_default),
-         requiredText(calendar.ctag),
-         requiredText(calendar.sync_token),
-         requiredText(calendar.delta_sync_token),
-         requiredText(calendar.supported_components),
-         calendar.sort_order,
-         requiredText(calendar.canonical_key),
-         StorageFormat::boolValue(calendar.sync_enabled),
-         StorageFormat::boolValue(calendar.is_shared),
-         StorageFormat::boolValue(calendar.shared_with_me),
-         requiredText(calendar.last_sync_error),
-         StorageFormat::dateTimeValue(calendar.created_at.isValid() ? calendar.created_at : now),
-         StorageFormat::dateTimeValue(calendar.updated_at.isValid() ? calendar.updated_at : now)});
+        QVariantList{requiredText(calendar.id)} + settableValues(calendar)
+            + QVariantList{StorageFormat::dateTimeValue(calendar.created_at.isValid() ? calendar.created_at : now),
+                           StorageFormat::dateTimeValue(calendar.updated_at.isValid() ? calendar.updated_at : now)});
     if (!ok) {
         SqlSupport::logFailure("CalendarRepository::insert failed:", query.lastError());
         return false;
@@ -136,27 +142,8 @@ bool CalendarRepository::update(const Calendar &calendar)
                        "delta_sync_token = ?, supported_components = ?, sort_order = ?, canonical_key = ?, "
                        "sync_enabled = ?, is_shared = ?, shared_with_me = ?, last_sync_error = ?, updated_at = ? "
                        "WHERE id = ?"),
-        {requiredText(calendar.account_id),
-         requiredText(calendar.url),
-         requiredText(calendar.name),
-         requiredText(calendar.description),
-         requiredText(calendar.color),
-         requiredText(calendar.timezone),
-         StorageFormat::boolValue(calendar.is_visible),
-         StorageFormat::boolValue(calendar.is_read_only),
-         StorageFormat::boolValue(calendar.is_default),
-         requiredText(calendar.ctag),
-         requiredText(calendar.sync_token),
-         requiredText(calendar.delta_sync_token),
-         requiredText(calendar.supported_components),
-         calendar.sort_order,
-         requiredText(calendar.canonical_key),
-         StorageFormat::boolValue(calendar.sync_enabled),
-         StorageFormat::boolValue(calendar.is_shared),
-         StorageFormat::boolValue(calendar.shared_with_me),
-         requiredText(calendar.last_sync_error),
-         StorageFormat::dateTimeValue(Clock::nowUtc()),
-         requiredText(calendar.id)});
+        settableValues(calendar)
+            + QVariantList{StorageFormat::dateTimeValue(Clock::nowUtc()), requiredText(calendar.id)});
     if (!ok) {
         SqlSupport::logFailure("CalendarRepository::update failed:", query.lastError());
         return false;

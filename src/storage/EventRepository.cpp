@@ -162,23 +162,9 @@ Attendee readAttendee(const QSqlQuery &query, int first)
 EventRepository::EventRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-    , m_changeTimer(this)
+    , m_changes(this, [this](const QString &calendarId) { emit eventsChanged(calendarId); })
     , m_statements(std::make_unique<StatementCache>(database))
-{
-    m_changeTimer.setSingleShot(true);
-    m_changeTimer.setInterval(150);
-    connect(&m_changeTimer, &QTimer::timeout, this, [this] {
-        const QString calendarId = m_pendingCalendarId;
-        m_pendingCalendarId.clear();
-        emit eventsChanged(calendarId);
-    });
-}
-
-void EventRepository::notifyChanged(const QString &calendarId)
-{
-    m_pendingCalendarId = calendarId;
-    m_changeTimer.start();
-}
+{ }
 
 QList<Event> EventRepository::selectEvents(const char *operation, const QString &sql, const QVariantList &values,
                                            bool withChildRows) const
@@ -389,7 +375,7 @@ bool EventRepository::insert(const Event &event)
     if (!query)
         return false;
     writeChildRows(event);
-    notifyChanged(event.calendar_id);
+    m_changes.note(event.calendar_id);
     return true;
 }
 
@@ -408,7 +394,7 @@ bool EventRepository::update(const Event &event)
         return false;
     }
     writeChildRows(event);
-    notifyChanged(event.calendar_id);
+    m_changes.note(event.calendar_id);
     return true;
 }
 
@@ -481,7 +467,7 @@ bool EventRepository::remove(const QString &id)
         {now, now, id}, "EventRepository::remove failed:");
     if (!query)
         return false;
-    notifyChanged(*calendarId);
+    m_changes.note(*calendarId);
     return true;
 }
 
@@ -498,7 +484,7 @@ bool EventRepository::hardDelete(const QString &id)
     if (!m_statements->run(QStringLiteral("DELETE FROM events WHERE id = ?"), {id},
                            "EventRepository::hardDelete failed:"))
         return false;
-    notifyChanged(*calendarId);
+    m_changes.note(*calendarId);
     return true;
 }
 
@@ -512,7 +498,7 @@ bool EventRepository::markSynced(const QString &id, const QString &href, const Q
                             {href, etag, id}, "EventRepository::markSynced failed:");
     if (!query)
         return false;
-    notifyChanged(*calendarId);
+    m_changes.note(*calendarId);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/ChangeCoalescer.h"
 #include "storage/Event.h"
 #include "storage/StatementCache.h"
 
@@ -9,7 +10,6 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 #include <QVariantList>
 
 #include <memory>
@@ -67,7 +67,6 @@ signals:
     void eventsChanged(const QString &calendarId);
 
 private:
-    void notifyChanged(const QString &calendarId);
     QList<Event> selectEvents(const char *operation, const QString &sql, const QVariantList &values,
                               bool withChildRows) const;
     std::optional<Event> selectEvent(const char *operation, const QString &sql, const QVariantList &values) const;
@@ -77,7 +76,6 @@ private:
     void writeChildRows(const Event &event);
 
     Database *m_database;
-    QTimer m_changeTimer;
-    QString m_pendingCalendarId;
+    ChangeCoalescer m_changes;
     std::unique_ptr<StatementCache> m_statements;
 };

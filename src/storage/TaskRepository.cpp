@@ -118,23 +118,9 @@ QDateTime nextOccurrence(const Task &task, const QDateTime &anchor)
 TaskRepository::TaskRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
-    , m_changeTimer(this)
+    , m_changes(this, [this](const QString &calendarId) { emit tasksChanged(calendarId); })
     , m_statements(std::make_unique<StatementCache>(database))
-{
-    m_changeTimer.setSingleShot(true);
-    m_changeTimer.setInterval(150);
-    connect(&m_changeTimer, &QTimer::timeout, this, [this] {
-        const QString calendarId = m_pendingCalendarId;
-        m_pendingCalendarId.clear();
-        emit tasksChanged(calendarId);
-    });
-}
-
-void TaskRepository::notifyChanged(const QString &calendarId)
-{
-    m_pendingCalendarId = calendarId;
-    m_changeTimer.start();
-}
+{ }
 
 QList<Task> TaskRepository::selectTasks(const char *operation, const QString &sql, const QVariantList &values) const
 {
@@ -229,7 +215,7 @@ bool TaskRepository::insert(const Task &task)
         = m_statements->run(kInsert, rowValues(task, status, created, lastModified), "TaskRepository::insert failed:");
     if (!query)
         return false;
-    notifyChanged(task.calendar_id);
+    m_changes.note(task.calendar_id);
     return true;
 }
 
@@ -247,7 +233,7 @@ bool TaskRepository::update(const Task &task)
         qCWarning(lcRepository).noquote() << "TaskRepository::update failed: no task with id" << task.id;
         return false;
     }
-    notifyChanged(task.calendar_id);
+    m_changes.note(task.calendar_id);
     return true;
 }
 
@@ -267,7 +253,7 @@ bool TaskRepository::remove(const QString &id)
         {now, now, id}, "TaskRepository::remove failed:");
     if (!query)
         return false;
-    notifyChanged(*calendarId);
+    m_changes.note(*calendarId);
     return true;
 }
 
@@ -280,7 +266,7 @@ bool TaskRepository::hardDelete(const QString &id)
                                          "TaskRepository::hardDelete failed:");
     if (!query)
         return false;
-    notifyChanged(*calendarId);
+    m_changes.note(*calendarId);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/ChangeCoalescer.h"
 #include "storage/StatementCache.h"
 #include "storage/Task.h"
 
@@ -9,7 +10,6 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 #include <QVariantList>
 
 #include <memory>
@@ -62,13 +62,11 @@ signals:
     void tasksChanged(const QString &calendarId);
 
 private:
-    void notifyChanged(const QString &calendarId);
     QList<Task> selectTasks(const char *operation, const QString &sql, const QVariantList &values) const;
     std::optional<Task> selectTask(const char *operation, const QString &sql, const QVariantList &values) const;
     std::optional<QString> calendarOf(const char *operation, const QString &id) const;
 
     Database *m_database;
-    QTimer m_changeTimer;
-    QString m_pendingCalendarId;
+    ChangeCoalescer m_changes;
     std::unique_ptr<StatementCache> m_statements;
 };
