@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "storage/AccountRepository.h"
-#include "storage/CalendarRepository.h"
-#include "storage/Database.h"
+#include "StoreFixture.h"
+
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "storage/SpanQuery.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
-
-#include <memory>
 
 namespace {
 
@@ -70,37 +66,19 @@ private slots:
     void calendarsAndTombstones();
 
 private:
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<Database> m_database;
+    StoreFixture m_store;
 };
 
 void TestSpanQuery::init()
 {
-    m_dir = std::make_unique<QTemporaryDir>();
-    m_database = std::make_unique<Database>();
-    QVERIFY(m_database->open(m_dir->filePath(QStringLiteral("calendar.db"))));
-    m_database->migrate();
-    AccountRepository accounts(m_database.get());
-    Account account;
-    account.id = QStringLiteral("local");
-    account.name = QStringLiteral("Local");
-    account.type = QStringLiteral("kettlebrook");
-    QVERIFY(accounts.insert(account));
-    CalendarRepository calendars(m_database.get());
-    for (const QString &id : {QStringLiteral("home"), QStringLiteral("work")}) {
-        Calendar calendar;
-        calendar.id = id;
-        calendar.account_id = account.id;
-        calendar.name = id;
-        calendar.url = QStringLiteral("local://calendar/") + id;
-        QVERIFY(calendars.insert(calendar));
-    }
+    QVERIFY(m_store.open());
+    QVERIFY(m_store.addCalendar(QStringLiteral("home")));
+    QVERIFY(m_store.addCalendar(QStringLiteral("work")));
 }
 
 void TestSpanQuery::cleanup()
 {
-    m_database.reset();
-    m_dir.reset();
+    m_store.close();
 }
 
 void TestSpanQuery::spanBounds_data()
@@ -134,9 +112,9 @@ void TestSpanQuery::spanBounds()
     QFETCH(QDateTime, start);
     QFETCH(QDateTime, end);
     QFETCH(bool, shown);
-    EventRepository events(m_database.get());
+    EventRepository events(m_store.database());
     QVERIFY(events.insert(single(QStringLiteral("e"), QStringLiteral("home"), start, end)));
-    FilterRuleRepository rules(m_database.get());
+    FilterRuleRepository rules(m_store.database());
     const SpanContents span = SpanQuery(events, rules).contents(berlin(3, 11, 0), berlin(3, 18, 0));
     QCOMPARE(span.start, berlin(3, 11, 0).toUTC());
     QCOMPARE(span.end, berlin(3, 18, 0).toUTC());
@@ -145,7 +123,7 @@ void TestSpanQuery::spanBounds()
 
 void TestSpanQuery::seriesAndSinglesInStartOrder()
 {
-    EventRepository events(m_database.get());
+    EventRepository events(m_store.database());
     Event standup = single(QStringLiteral("standup"), QStringLiteral("work"), berlin(1, 8, 9), berlin(1, 8, 9, 15));
     standup.recurrence_rule = QStringLiteral("FREQ=DAILY;COUNT=100");
     QVERIFY(events.insert(standup));
@@ -159,7 +137,7 @@ void TestSpanQuery::seriesAndSinglesInStartOrder()
     QVERIFY(
         events.insert(single(QStringLiteral("lunch"), QStringLiteral("home"), berlin(3, 12, 12), berlin(3, 12, 13))));
     QVERIFY(events.insert(single(QStringLiteral("early"), QStringLiteral("home"), berlin(3, 13, 7), berlin(3, 13, 8))));
-    FilterRuleRepository rules(m_database.get());
+    FilterRuleRepository rules(m_store.database());
 
     const SpanContents span = SpanQuery(events, rules).contents(berlin(3, 12, 0), berlin(3, 14, 0));
     QCOMPARE(titlesOf(span.occurrences), (QStringList{"standup", "lunch", "early", "standup (moved)"}));
@@ -201,12 +179,12 @@ void TestSpanQuery::emptyOrInvertedSpan()
 
 void TestSpanQuery::calendarsAndTombstones()
 {
-    EventRepository events(m_database.get());
+    EventRepository events(m_store.database());
     QVERIFY(events.insert(single(QStringLiteral("h"), QStringLiteral("home"), berlin(3, 12, 9), berlin(3, 12, 10))));
     QVERIFY(events.insert(single(QStringLiteral("w"), QStringLiteral("work"), berlin(3, 12, 11), berlin(3, 12, 12))));
     QVERIFY(events.insert(single(QStringLiteral("d"), QStringLiteral("work"), berlin(3, 12, 13), berlin(3, 12, 14))));
     QVERIFY(events.remove(QStringLiteral("d")));
-    FilterRuleRepository rules(m_database.get());
+    FilterRuleRepository rules(m_store.database());
     const SpanQuery query(events, rules);
     QCOMPARE(titlesOf(query.contents(berlin(3, 11, 0), berlin(3, 18, 0)).occurrences), (QStringList{"h", "w"}));
     QCOMPARE(titlesOf(query.contents(berlin(3, 11, 0), berlin(3, 18, 0), {QStringLiteral("work")}).occurrences),
