@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "storage/AccountRepository.h"
-#include "storage/CalendarRepository.h"
+#include "StoreFixture.h"
+
 #include "storage/Clock.h"
-#include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 
@@ -12,11 +11,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
-
-#include <memory>
 
 namespace {
 
@@ -84,7 +80,7 @@ private slots:
 private:
     QJsonObject agendaJson(const QStringList &extra, int expectedStatus = 0);
 
-    std::unique_ptr<QTemporaryDir> m_dir;
+    StoreFixture m_store;
 };
 
 void TestKbcalAgenda::initTestCase()
@@ -95,34 +91,15 @@ void TestKbcalAgenda::initTestCase()
 
 void TestKbcalAgenda::init()
 {
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
     // "Now" is Wednesday 13 March, 15:00 in Berlin.
     Clock::setFixedNow(berlin(13, 15));
+    QVERIFY(m_store.open());
+    QVERIFY(m_store.addCalendar(QStringLiteral("home"), QStringLiteral("Home")));
+    QVERIFY(m_store.addCalendar(QStringLiteral("work"), QStringLiteral("Work")));
+    QVERIFY(m_store.addCalendar(QStringLiteral("hidden"), QStringLiteral("Hidden")));
+    QVERIFY(m_store.exec(QStringLiteral("UPDATE calendars SET is_visible = 0 WHERE id = 'hidden'")));
 
-    Database database;
-    QVERIFY(database.open(m_dir->filePath(QStringLiteral("calendar.db"))));
-    database.migrate();
-    AccountRepository accounts(&database);
-    Account local;
-    local.id = QStringLiteral("local");
-    local.name = QStringLiteral("On this device");
-    local.type = QStringLiteral("kettlebrook");
-    QVERIFY(accounts.insert(local));
-    CalendarRepository calendars(&database);
-    const auto calendar = [](const QString &id, const QString &name, bool visible) {
-        Calendar c;
-        c.id = id;
-        c.account_id = QStringLiteral("local");
-        c.name = name;
-        c.url = QStringLiteral("local://calendar/") + id;
-        c.is_visible = visible;
-        return c;
-    };
-    QVERIFY(calendars.insert(calendar(QStringLiteral("home"), QStringLiteral("Home"), true)));
-    QVERIFY(calendars.insert(calendar(QStringLiteral("work"), QStringLiteral("Work"), true)));
-    QVERIFY(calendars.insert(calendar(QStringLiteral("hidden"), QStringLiteral("Hidden"), false)));
-
+    Database &database = *m_store.database();
     EventRepository events(&database);
     Event standup
         = makeEvent(QStringLiteral("standup"), QStringLiteral("work"), QStringLiteral("Standup"), berlin(4, 9), 15);
@@ -165,14 +142,14 @@ void TestKbcalAgenda::init()
 
 void TestKbcalAgenda::cleanup()
 {
-    m_dir.reset();
+    m_store.close();
     Clock::setFixedNow(QDateTime());
 }
 
 QJsonObject TestKbcalAgenda::agendaJson(const QStringList &extra, int expectedStatus)
 {
     const Result result = runKbcal(
-        QStringList{QStringLiteral("--data-dir"), m_dir->path(), QStringLiteral("agenda"), QStringLiteral("--json")}
+        QStringList{QStringLiteral("--data-dir"), m_store.folder(), QStringLiteral("agenda"), QStringLiteral("--json")}
         + extra);
     if (result.status != expectedStatus)
         qWarning().noquote() << "kbcal agenda" << extra << "exited with" << result.status << result.err;
@@ -277,7 +254,7 @@ void TestKbcalAgenda::calendars()
 void TestKbcalAgenda::text()
 {
     const Result result
-        = runKbcal({QStringLiteral("--data-dir"), m_dir->path(), QStringLiteral("agenda"), QStringLiteral("--from"),
+        = runKbcal({QStringLiteral("--data-dir"), m_store.folder(), QStringLiteral("agenda"), QStringLiteral("--from"),
                     QStringLiteral("2024-03-13"), QStringLiteral("--days"), QStringLiteral("6")});
     QCOMPARE(result.status, 0);
     QVERIFY(result.err.isEmpty());
@@ -307,7 +284,7 @@ void TestKbcalAgenda::text()
 
 void TestKbcalAgenda::emptySpanAsText()
 {
-    const Result result = runKbcal({QStringLiteral("--data-dir"), m_dir->path(), QStringLiteral("agenda"),
+    const Result result = runKbcal({QStringLiteral("--data-dir"), m_store.folder(), QStringLiteral("agenda"),
                                     QStringLiteral("--from"), QStringLiteral("2025-01-02"), QStringLiteral("--days"),
                                     QStringLiteral("2"), QStringLiteral("--calendar"), QStringLiteral("home")});
     QCOMPARE(result.status, 0);
@@ -340,7 +317,7 @@ void TestKbcalAgenda::usage()
     QFETCH(int, status);
     QFETCH(QString, error);
     const Result result
-        = runKbcal(QStringList{QStringLiteral("--data-dir"), m_dir->path(), QStringLiteral("agenda")} + arguments);
+        = runKbcal(QStringList{QStringLiteral("--data-dir"), m_store.folder(), QStringLiteral("agenda")} + arguments);
     QCOMPARE(result.status, status);
     QVERIFY(result.out.isEmpty());
     QCOMPARE(result.err.section(QLatin1Char('\n'), 0, 0), error);
