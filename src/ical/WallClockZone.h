@@ -6,7 +6,7 @@
 
 #include <memory>
 
-// The clock of one date-time's time spec (UTC, a fixed offset, the local zone or an IANA zone),
+// The clock of one date-time's kind of time (UTC, a fixed offset, the local zone or an IANA zone),
 // for stepping by calendar days while keeping the wall-clock reading.
 //
 // A wall-clock reading is given as milliseconds since 1970-01-01T00:00 read on that clock, so that
@@ -23,7 +23,7 @@ public:
     // 1970-01-01 as a Julian day.
     static constexpr qint64 kEpochJulianDay = 2440588;
 
-    // The clock of `reference`'s time spec (its zone, offset, UTC or local time).
+    // The clock of `reference`'s kind of time (its zone, offset, UTC or local time).
     explicit WallClockZone(const QDateTime &reference);
 
     // The wall-clock reading of a date-time on its own clock.
@@ -39,7 +39,7 @@ public:
     qint64 toInstant(qint64 wallMs) const;
     // Offset from UTC in seconds in force at an instant.
     int offsetAt(qint64 instantMs) const;
-    // A date-time for the instant, in this clock's time spec.
+    // A date-time for the instant, in this clock's kind of time.
     QDateTime dateTimeAt(qint64 instantMs) const;
 
     struct Table;
