@@ -78,9 +78,9 @@ std::shared_ptr<const WallClockZone::Table> tableFor(const QByteArray &id, const
 } // namespace
 
 WallClockZone::WallClockZone(const QDateTime &reference)
-    : m_spec(reference.timeSpec())
+    : m_kind(reference.timeSpec())
 {
-    switch (m_spec) {
+    switch (m_kind) {
     case Qt::UTC:
         break;
     case Qt::OffsetFromUTC:
@@ -127,7 +127,7 @@ int WallClockZone::weekday(qint64 wallMs)
 
 int WallClockZone::offsetAt(qint64 instantMs) const
 {
-    switch (m_spec) {
+    switch (m_kind) {
     case Qt::UTC:
         return 0;
     case Qt::OffsetFromUTC:
@@ -141,9 +141,9 @@ int WallClockZone::offsetAt(qint64 instantMs) const
 
 qint64 WallClockZone::toInstant(qint64 wallMs) const
 {
-    if (m_spec == Qt::UTC)
+    if (m_kind == Qt::UTC)
         return wallMs;
-    if (m_spec == Qt::OffsetFromUTC)
+    if (m_kind == Qt::OffsetFromUTC)
         return wallMs - qint64(m_fixedOffset) * 1000;
     // Offsets never move by more than a day, so the ones a day either side are the only candidates.
     const qint64 before = qint64(m_table->offsetAt(wallMs - kDayMs)) * 1000;
@@ -165,7 +165,7 @@ qint64 WallClockZone::toInstant(qint64 wallMs) const
 
 QDateTime WallClockZone::dateTimeAt(qint64 instantMs) const
 {
-    switch (m_spec) {
+    switch (m_kind) {
     case Qt::UTC:
         break;
     case Qt::OffsetFromUTC:

@@ -45,7 +45,7 @@ public:
     struct Table;
 
 private:
-    Qt::TimeSpec m_spec = Qt::UTC;
+    Qt::TimeSpec m_kind = Qt::UTC;
     int m_fixedOffset = 0;
     QTimeZone m_zone;
     std::shared_ptr<const Table> m_table;
